@@ -1,0 +1,1 @@
+set(CLI_SOURCES cli/main.cpp)
