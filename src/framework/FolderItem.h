@@ -1,0 +1,84 @@
+#pragma once
+// Files and folders by path, and text streams on them. A file that replaces an old one is
+// written to a temporary file and renamed into place at Close, so a failure never leaves it
+// half written.
+
+#include <cstdio>
+#include <filesystem>
+#include <string>
+
+#include "framework/Ref.h"
+
+namespace fw {
+
+class FolderItem;
+class TextInputStream;
+class TextOutputStream;
+using FolderItemRef = Ref<FolderItem>;
+using TextInputStreamRef = Ref<TextInputStream>;
+using TextOutputStreamRef = Ref<TextOutputStream>;
+
+class FolderItem {
+public:
+    explicit FolderItem(std::filesystem::path path) : path_(std::move(path)) {}
+    const std::filesystem::path& Path() const { return path_; }
+    std::string Name() const { return path_.filename().string(); }
+
+    bool Exists() const;
+    bool Directory() const;
+    // The item of that name inside this folder: nil when this folder does not exist; an item
+    // whose Exists is false when the folder exists and the name does not.
+    FolderItemRef Child(const std::string& name) const;
+    // Makes the folder and its parents; false if it cannot.
+    bool CreateAsFolder() const;
+
+    // nil if the file cannot be opened.
+    TextInputStreamRef OpenAsTextFile() const;
+    // Replaces the file, atomically at Close. nil if the folder cannot be written.
+    TextOutputStreamRef CreateTextFile() const;
+    // Writes behind the end, creating the file if need be. nil if it cannot be opened.
+    TextOutputStreamRef AppendToTextFile() const;
+
+private:
+    std::filesystem::path path_;
+};
+
+class TextInputStream {
+public:
+    explicit TextInputStream(std::string content) : content_(std::move(content)) {}
+    std::string ReadAll();
+    // The next line without its line end; "" at the end of the file.
+    std::string ReadLine();
+    // EOF of the logic; the name itself is taken by the C library.
+    bool Eof() const { return position_ >= content_.size(); }
+    void Close() {}
+
+private:
+    std::string content_;
+    size_t position_ = 0;
+};
+
+class TextOutputStream {
+public:
+    // Replacing: `target` is renamed over at Close from `temporary`. Appending: no temporary.
+    TextOutputStream(std::FILE* file, std::filesystem::path target, std::filesystem::path temporary);
+    ~TextOutputStream();
+    TextOutputStream(const TextOutputStream&) = delete;
+    TextOutputStream& operator=(const TextOutputStream&) = delete;
+
+    // Replaces `item`'s file anew; the same as FolderItem::CreateTextFile.
+    static TextOutputStreamRef Create(const FolderItem& item) { return item.CreateTextFile(); }
+
+    void Write(const std::string& text);
+    void WriteLine(const std::string& text);
+    // Commits the file; raises IOException if the data could not be written.
+    void Close();
+
+private:
+    std::FILE* file_;
+    std::filesystem::path target_;
+    std::filesystem::path temporary_;
+    bool failed_ = false;
+};
+
+}  // namespace fw

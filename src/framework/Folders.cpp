@@ -1,0 +1,56 @@
+#include "framework/Folders.h"
+
+#include <cstdlib>
+#include <system_error>
+
+namespace fs = std::filesystem;
+
+namespace fw {
+
+namespace {
+fs::path XdgFolder(const char* variable, const char* fallbackBelowHome) {
+    const char* value = std::getenv(variable);
+    if (value && *value) return fs::path(value);
+    const char* home = std::getenv("HOME");
+    return fs::path(home && *home ? home : ".") / fallbackBelowHome;
+}
+
+bool HasSupportFolder(const fs::path& folder) {
+    std::error_code error;
+    return !folder.empty() && fs::is_directory(folder / "VLSupport", error);
+}
+}  // namespace
+
+fs::path ShippedDataFolder(const fs::path& executable) {
+    std::error_code error;
+    const fs::path bin = fs::weakly_canonical(executable, error).parent_path();
+    for (const fs::path& candidate : {bin / ".." / "share" / "velmora", fs::path(VELMORA_SOURCE_DATA_DIR) / "data"})
+        if (HasSupportFolder(candidate)) return fs::weakly_canonical(candidate, error);
+    return {};
+}
+
+FolderSet DesktopFolders(const fs::path& executable) {
+    FolderSet folders;
+    folders.preferences = XdgFolder("XDG_CONFIG_HOME", ".config") / "velmora";
+    const fs::path userData = XdgFolder("XDG_DATA_HOME", ".local/share") / "velmora";
+    folders.application = userData;
+    const fs::path shipped = ShippedDataFolder(executable);
+    folders.applicationData = HasSupportFolder(userData) || shipped.empty() ? userData : shipped;
+    std::error_code error;
+    const fs::path sourceResources = fs::path(VELMORA_SOURCE_DATA_DIR) / "resources";
+    folders.resources = !shipped.empty() && fs::is_directory(shipped / "resources", error) ? shipped / "resources"
+                                                                                           : sourceResources;
+    fs::create_directories(folders.preferences, error);
+    fs::create_directories(folders.application, error);
+    return folders;
+}
+
+FolderSet HomeFolders(const fs::path& home) {
+    FolderSet folders{home / "prefs", home / "data", home / "app", home / "resources"};
+    std::error_code error;
+    fs::create_directories(folders.preferences, error);
+    fs::create_directories(folders.application, error);
+    return folders;
+}
+
+}  // namespace fw

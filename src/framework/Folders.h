@@ -1,0 +1,27 @@
+#pragma once
+// Where Velmora's files live on a Linux desktop.
+
+#include <filesystem>
+#include <string>
+
+namespace fw {
+
+struct FolderSet {
+    std::filesystem::path preferences;      // VL3Preferences, VL3Instr.txt
+    std::filesystem::path applicationData;  // holds VLSupport/ with the data files
+    std::filesystem::path application;      // VLmemory.txt and saved logs
+    std::filesystem::path resources;        // pictures and sounds
+};
+
+// The XDG folders ($XDG_CONFIG_HOME/velmora, $XDG_DATA_HOME/velmora); the data folder falls back
+// to the shipped data beside the installed program, or in the source tree, while the user's own
+// holds no VLSupport. `executable` is the running program's path.
+FolderSet DesktopFolders(const std::filesystem::path& executable);
+
+// Everything under one folder, with no fallback, so that a test controls every file.
+FolderSet HomeFolders(const std::filesystem::path& home);
+
+// The folder that holds the shipped VLSupport/ and resources/, or "" if none is found.
+std::filesystem::path ShippedDataFolder(const std::filesystem::path& executable);
+
+}  // namespace fw

@@ -1,0 +1,44 @@
+#include "framework/RecordingPlatform.h"
+
+#include <cstdio>
+
+namespace fw {
+
+RecordingPlatform::RecordingPlatform(FolderSet folderSet) : folders(std::move(folderSet)), now(std::time(nullptr)) {}
+
+void RecordingPlatform::SetClipboardText(const std::string& text) {
+    clipboard = text;
+    ++clipboardWrites;
+}
+
+FolderItemRef RecordingPlatform::Folder(SpecialFolder which) {
+    switch (which) {
+    case SpecialFolder::Preferences: return MakeRef<FolderItem>(folders.preferences);
+    case SpecialFolder::ApplicationData: return MakeRef<FolderItem>(folders.applicationData);
+    case SpecialFolder::Application: return MakeRef<FolderItem>(folders.application);
+    case SpecialFolder::Resources: return MakeRef<FolderItem>(folders.resources);
+    }
+    return nullptr;
+}
+
+std::string RecordingPlatform::ShortDate(std::time_t moment) { return UsShortDate(moment); }
+std::string RecordingPlatform::ShortTime(std::time_t moment) { return UsShortTime(moment); }
+
+std::string UsShortDate(std::time_t moment) {
+    std::tm parts{};
+    localtime_r(&moment, &parts);
+    char text[32];
+    std::snprintf(text, sizeof text, "%d/%d/%02d", parts.tm_mon + 1, parts.tm_mday, parts.tm_year % 100);
+    return text;
+}
+
+std::string UsShortTime(std::time_t moment) {
+    std::tm parts{};
+    localtime_r(&moment, &parts);
+    const int hour = parts.tm_hour % 12 == 0 ? 12 : parts.tm_hour % 12;
+    char text[32];
+    std::snprintf(text, sizeof text, "%d:%02d %s", hour, parts.tm_min, parts.tm_hour < 12 ? "AM" : "PM");
+    return text;
+}
+
+}  // namespace fw

@@ -1,0 +1,46 @@
+#pragma once
+// A desktop without a screen: it records what the program asks of it, so that tests and the
+// console can read it back and steer what the desktop answers.
+
+#include <string>
+#include <vector>
+
+#include "framework/Folders.h"
+#include "framework/Platform.h"
+
+namespace fw {
+
+class RecordingPlatform : public Platform {
+public:
+    explicit RecordingPlatform(FolderSet folders);
+
+    void SetClipboardText(const std::string& text) override;
+    std::string ClipboardText() override { return clipboard; }
+    void Beep() override { ++beeps; }
+    void PlaySound(const std::string& name) override { sounds.push_back(name); }
+    void MsgBox(const std::string& message) override { messages.push_back(message); }
+    void ShowURL(const std::string& url) override { urls.push_back(url); }
+    bool AsyncShiftKey() override { return shift; }
+    FolderItemRef Folder(SpecialFolder which) override;
+    std::time_t Now() override { return now; }
+    std::string ShortDate(std::time_t moment) override;
+    std::string ShortTime(std::time_t moment) override;
+    std::string SystemVersion() override { return systemVersion; }
+
+    FolderSet folders;
+    std::string clipboard;
+    int clipboardWrites = 0;
+    int beeps = 0;
+    std::vector<std::string> sounds;
+    std::vector<std::string> messages;
+    std::vector<std::string> urls;
+    bool shift = false;
+    std::time_t now;
+    std::string systemVersion;
+};
+
+// Short forms in the style of a US desktop: "1/31/11" and "3:04 PM".
+std::string UsShortDate(std::time_t moment);
+std::string UsShortTime(std::time_t moment);
+
+}  // namespace fw
