@@ -1,1 +1,4 @@
-list(APPEND CORE_SOURCES)
+list(APPEND CORE_SOURCES
+  calc/Evaluate.cpp
+  calc/Normalise.cpp
+)

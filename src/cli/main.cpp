@@ -1,1 +1,54 @@
-int main() { return 0; }
+// velmora-cli: Velmora without a screen.
+//   velmora-cli [--home DIR] [--action CAPTION] [--log] TEXT   drop TEXT, print the clipboard
+//   velmora-cli [--home DIR]                                    read commands from standard input
+
+#include <iostream>
+#include <string>
+
+#include "cli/Console.h"
+#include "framework/Folders.h"
+
+int main(int argc, char** argv) {
+    fw::FolderSet folders = fw::DesktopFolders(argv[0]);
+    std::string action;
+    std::string text;
+    bool haveText = false;
+    bool printLog = false;
+    for (int i = 1; i < argc; ++i) {
+        const std::string arg = argv[i];
+        if (arg == "--home" && i + 1 < argc) {
+            const std::filesystem::path resources = folders.resources;
+            folders = fw::HomeFolders(argv[++i]);
+            folders.resources = resources;
+        } else if (arg == "--action" && i + 1 < argc) {
+            action = argv[++i];
+        } else if (arg == "--log") {
+            printLog = true;
+        } else if (arg == "--help" || arg == "-h") {
+            std::cout << "usage: velmora-cli [--home DIR] [--action CAPTION] [--log] [TEXT]\n";
+            return 0;
+        } else {
+            text = arg;
+            haveText = true;
+        }
+    }
+
+    Console console(folders);
+    if (!action.empty() && !console.Choose(action)) {
+        std::cerr << "error: no action " << action << "\n";
+        return 2;
+    }
+    if (haveText) {
+        const int writesBefore = console.platform.clipboardWrites;
+        console.Drop(text);
+        const bool delivered = console.platform.clipboardWrites != writesBefore;
+        if (delivered) std::cout << console.platform.clipboard;
+        if (printLog) std::cerr << console.window.EditField2.Text();
+        return delivered ? 0 : 1;
+    }
+    std::string line;
+    while (std::getline(std::cin, line))
+        if (!console.Execute(line, std::cout, std::cerr)) break;
+    if (printLog) std::cerr << console.window.EditField2.Text();
+    return 0;
+}

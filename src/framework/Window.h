@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "framework/Control.h"
+#include "framework/DragItem.h"
 
 namespace fw {
 
@@ -42,6 +43,8 @@ public:
     // Text may be dropped anywhere on the window once this has been called.
     void AcceptTextDrop() { acceptsTextDrop_ = true; }
     bool AcceptsTextDrop() const { return acceptsTextDrop_; }
+    // A drop on the window; `item` is nil for a drag that carries nothing readable.
+    virtual void Event_DropObject(const DragItem* item, int action) { (void)item, (void)action; }
 
     bool IsVisible() const { return visible_; }
     void Show();

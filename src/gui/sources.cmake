@@ -1,1 +1,13 @@
-# Qt front end: added with the window.
+find_package(Qt6 REQUIRED COMPONENTS Widgets Multimedia)
+set(CMAKE_AUTOMOC OFF)
+add_library(velmora_gui STATIC
+  gui/ButtonBindings.cpp
+  gui/ControlBinding.cpp
+  gui/ListBindings.cpp
+  gui/QtPlatform.cpp
+  gui/TextBindings.cpp
+  gui/WindowView.cpp
+)
+target_link_libraries(velmora_gui PUBLIC velmora_core Qt6::Widgets Qt6::Multimedia)
+add_executable(velmora gui/main.cpp)
+target_link_libraries(velmora PRIVATE velmora_gui)

@@ -1,1 +1,4 @@
-list(APPEND CORE_SOURCES)
+list(APPEND CORE_SOURCES
+  shell/Preferences.cpp
+  shell/Startup.cpp
+)

@@ -1,0 +1,94 @@
+// Rewriting dropped text into an expression, by plain replacement: the order of the
+// replacements is the logic. The drop handler and ButtonAct differ in the steps that say so.
+
+#include <cstdint>
+
+#include "framework/RegEx.h"
+#include "framework/Text.h"
+#include "window/Window1.h"
+
+using namespace fw;
+
+namespace {
+const char* const kPiDigits = "3.1415926535897932384626433832795";
+
+// A double as a 32-bit integer, wrapping where it is too large; beyond any integer it is -1.
+std::int32_t ToInt32(double value) {
+    if (!(value > -9.2e18 && value < 9.2e18)) return -1;
+    return static_cast<std::int32_t>(static_cast<std::uint32_t>(static_cast<std::int64_t>(value)));
+}
+}  // namespace
+
+std::string Window1::fact(std::int32_t n) {
+    if (n < 0) return "";
+    // 32-bit wrap-around on purpose: 13! is 1932053504. From 34! on the product wraps to 0.
+    std::uint32_t product = 1;
+    for (std::int32_t factor = n; factor >= 2 && product != 0; --factor) product *= static_cast<std::uint32_t>(factor);
+    return Str(static_cast<std::int64_t>(static_cast<std::int32_t>(product)));
+}
+
+std::string Window1::FrontRewrite(std::string text, bool purge) {
+    text = ReplaceAll(text, " ", "");
+    text = ReplaceAll(text, ",", "");
+    if (purge) text = PurgePretty(text);
+    return ReplaceAll(text, "x10", "e");
+}
+
+std::string Window1::PurgePretty(const std::string& text) {
+    std::string purged = ReplaceAll(text, UTF8Chr(8212), "-");
+    purged = ReplaceAll(purged, UTF8Chr(197), "x");
+    purged = ReplaceAll(purged, "~", "");
+    purged = ReplaceAll(purged, UTF8Chr(8211), "-");
+    purged = ReplaceAll(purged, UTF8Chr(215), "x");
+    if (purged != text) LogLine("Unprettfied: " + purged);
+    return purged;
+}
+
+std::string Window1::ReplaceFactorials(std::string text) {
+    RegEx factorial;
+    factorial.SearchPattern = "\\d+!";
+    // Later matches come from the text as it was at the first search, not the rewritten one.
+    for (auto match = factorial.Search(text); match; match = factorial.Search()) {
+        // Each replacement eats a "!", so once none is left no later match can change anything.
+        if (text.find('!') == std::string::npos) break;
+        const std::string found = match->SubExpressionString(0);
+        text = ReplaceAll(text, found, fact(ToInt32(Val(found))));
+    }
+    return text;
+}
+
+std::string Window1::ReplacePi(const std::string& text) { return ReplaceAll(text, "PI", kPiDigits); }
+
+void Window1::CalculateRewriteForDrop(std::string text) {
+    unt = " ";
+    if (RadioButton4.Value() && InStr(text, "log") > 0) text = ReplaceAll(text, "log(", "log10(");
+    if (RadioButton2.Value()) {
+        // Each inverse goes first, so that its name no longer holds the plain name and "(".
+        text = ReplaceAll(text, "Asin(", "AsinD(");
+        text = ReplaceAll(text, "sin(", "sin((PI/180)*");
+        text = ReplaceAll(text, "Acos(", "AcosD(");
+        text = ReplaceAll(text, "cos(", "cos((PI/180)*");
+        text = ReplaceAll(text, "Atan(", "AtanD(");
+        text = ReplaceAll(text, "tan(", "tan((PI/180)*");
+    }
+    text = ReplacePi(ReplaceFactorials(text));
+    EditField1.SetText(text);
+    PushButton1.Push();
+}
+
+void Window1::CalculateRewriteForButton(std::string text) {
+    unt = " ";
+    if (RadioButton4.Value() && InStr(text, "log") > 0) text = ReplaceAll(text, "log", "0.4342945*log");
+    if (RadioButton2.Value()) {
+        // The plain function is left alone where its inverse stands, which the inverse's
+        // rewriting would otherwise hit again.
+        const std::pair<const char*, const char*> pairs[] = {{"Asin(", "sin("}, {"Acos(", "cos("}, {"Atan(", "tan("}};
+        for (const auto& [inverse, plain] : pairs) {
+            if (InStr(text, inverse) > 0) text = ReplaceAll(text, inverse, std::string("(180/PI)*") + inverse);
+            else text = ReplaceAll(text, plain, std::string(plain) + "(PI/180)*");
+        }
+    }
+    text = ReplacePi(ReplaceFactorials(text));
+    EditField1.SetText(text);
+    PushButton1.Push();
+}

@@ -1,0 +1,77 @@
+#include "gui/QtPlatform.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDateTime>
+#include <QDesktopServices>
+#include <QDir>
+#include <QLocale>
+#include <QMessageBox>
+#include <QSoundEffect>
+#include <QSysInfo>
+#include <QUrl>
+
+QtPlatform::QtPlatform(fw::FolderSet folders) : folders_(std::move(folders)) {}
+
+QtPlatform::~QtPlatform() { qDeleteAll(sounds_); }
+
+void QtPlatform::SetClipboardText(const std::string& text) {
+    QApplication::clipboard()->setText(QString::fromStdString(text));
+}
+
+std::string QtPlatform::ClipboardText() { return QApplication::clipboard()->text().toStdString(); }
+
+QSoundEffect* QtPlatform::Sound(const QString& file) {
+    auto found = sounds_.find(file);
+    if (found != sounds_.end()) return found.value();
+    auto* effect = new QSoundEffect;
+    effect->setSource(QUrl::fromLocalFile(QDir(QString::fromStdString(folders_.resources.string())).filePath(file)));
+    sounds_.insert(file, effect);
+    return effect;
+}
+
+void QtPlatform::Beep() {
+    // Most X11 desktops mute the bell, so the beep is a short tone of our own.
+    Sound(QStringLiteral("beep.wav"))->play();
+}
+
+void QtPlatform::PlaySound(const std::string& name) { Sound(QString::fromStdString(name) + ".wav")->play(); }
+
+void QtPlatform::MsgBox(const std::string& message) {
+    QMessageBox box(QMessageBox::NoIcon, QStringLiteral("Velmora"), QString::fromStdString(message), QMessageBox::Ok,
+                    QApplication::activeWindow());
+    box.setWindowFlag(Qt::WindowStaysOnTopHint);
+    box.exec();
+}
+
+void QtPlatform::ShowURL(const std::string& url) { QDesktopServices::openUrl(QUrl(QString::fromStdString(url))); }
+
+bool QtPlatform::AsyncShiftKey() {
+    return QGuiApplication::queryKeyboardModifiers().testFlag(Qt::ShiftModifier);
+}
+
+fw::FolderItemRef QtPlatform::Folder(fw::SpecialFolder which) {
+    switch (which) {
+    case fw::SpecialFolder::Preferences: return fw::MakeRef<fw::FolderItem>(folders_.preferences);
+    case fw::SpecialFolder::ApplicationData: return fw::MakeRef<fw::FolderItem>(folders_.applicationData);
+    case fw::SpecialFolder::Application: return fw::MakeRef<fw::FolderItem>(folders_.application);
+    case fw::SpecialFolder::Resources: return fw::MakeRef<fw::FolderItem>(folders_.resources);
+    }
+    return nullptr;
+}
+
+std::time_t QtPlatform::Now() { return std::time(nullptr); }
+
+std::string QtPlatform::ShortDate(std::time_t moment) {
+    return QLocale().toString(QDateTime::fromSecsSinceEpoch(moment).date(), QLocale::ShortFormat).toStdString();
+}
+
+std::string QtPlatform::ShortTime(std::time_t moment) {
+    return QLocale().toString(QDateTime::fromSecsSinceEpoch(moment).time(), QLocale::ShortFormat).toStdString();
+}
+
+std::string QtPlatform::SystemVersion() { return QSysInfo::prettyProductName().toStdString(); }
+
+QString QtPlatform::PicturePath(const std::string& name) const {
+    return QDir(QString::fromStdString(folders_.resources.string())).filePath(QString::fromStdString(name) + ".gif");
+}

@@ -1,0 +1,141 @@
+// One-line and multi-line text fields.
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QTextCursor>
+
+#include "framework/Controls.h"
+#include "gui/Bindings.h"
+
+namespace {
+
+QString StyleFor(const fw::TextControl& model) {
+    return model.BackColor() < 0 ? QString() : QStringLiteral("background-color: #%1; color: black;")
+                                                   .arg(model.BackColor(), 6, 16, QLatin1Char('0'));
+}
+
+class TextBinding : public ControlBinding {
+public:
+    TextBinding(fw::TextControl& model, QWidget* widget, QPoint origin, QtPlatform& platform)
+        : ControlBinding(model, widget, origin, platform), model_(model) {}
+
+protected:
+    // KeyDown hears every typed key first and may keep it from the field.
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == Widget() && event->type() == QEvent::KeyPress && model_.KeyDown) {
+            const QString key = static_cast<QKeyEvent*>(event)->text();
+            if (!key.isEmpty()) {
+                bool swallowed = false;
+                Deliver([&] { swallowed = model_.KeyDown(key.toStdString()); });
+                if (swallowed) return true;
+            }
+        }
+        return ControlBinding::eventFilter(watched, event);
+    }
+
+    void UserEdited(const QString& text, int selectionStart, int selectionLength) {
+        if (Updating()) return;
+        Deliver([&] {
+            model_.SetText(text.toStdString());
+            model_.SetSelection(selectionStart, selectionLength);
+        });
+    }
+
+    void UserMovedCaret(int selectionStart, int selectionLength) {
+        if (!Updating()) model_.SetSelection(selectionStart, selectionLength);
+    }
+
+    fw::TextControl& model_;
+};
+
+class LineEditBinding : public TextBinding {
+public:
+    LineEditBinding(fw::TextControl& model, QWidget* parent, QPoint origin, QtPlatform& platform)
+        : TextBinding(model, new QLineEdit(parent), origin, platform) {
+        connect(edit(), &QLineEdit::textEdited, this, [this](const QString& text) {
+            UserEdited(text, edit()->cursorPosition(), 0);
+        });
+        connect(edit(), &QLineEdit::selectionChanged, this, [this] { Caret(); });
+        connect(edit(), &QLineEdit::cursorPositionChanged, this, [this] { Caret(); });
+    }
+
+protected:
+    void Update(fw::Property property) override {
+        switch (property) {
+        case fw::Property::Text:
+        case fw::Property::TextAppended: {
+            const QString text = QString::fromStdString(model_.Text());
+            if (edit()->text() != text) edit()->setText(text);
+            break;
+        }
+        case fw::Property::Style:
+            edit()->setStyleSheet(StyleFor(model_));
+            edit()->setReadOnly(model_.ReadOnly);
+            edit()->setAlignment(model_.Alignment == 3 ? Qt::AlignRight : Qt::AlignLeft);
+            break;
+        default: break;
+        }
+    }
+
+private:
+    void Caret() {
+        const int start = edit()->hasSelectedText() ? edit()->selectionStart() : edit()->cursorPosition();
+        UserMovedCaret(start, edit()->hasSelectedText() ? edit()->selectedText().size() : 0);
+    }
+    QLineEdit* edit() const { return static_cast<QLineEdit*>(Widget()); }
+};
+
+class TextAreaBinding : public TextBinding {
+public:
+    TextAreaBinding(fw::TextControl& model, QWidget* parent, QPoint origin, QtPlatform& platform)
+        : TextBinding(model, new QPlainTextEdit(parent), origin, platform) {
+        connect(edit(), &QPlainTextEdit::textChanged, this, [this] {
+            const QTextCursor cursor = edit()->textCursor();
+            UserEdited(edit()->toPlainText(), cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart());
+        });
+        connect(edit(), &QPlainTextEdit::cursorPositionChanged, this, [this] {
+            const QTextCursor cursor = edit()->textCursor();
+            UserMovedCaret(cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart());
+        });
+    }
+
+protected:
+    void Update(fw::Property property) override {
+        switch (property) {
+        case fw::Property::Text: {
+            const QString text = QString::fromStdString(model_.Text());
+            if (edit()->toPlainText() != text) edit()->setPlainText(text);
+            break;
+        }
+        case fw::Property::TextAppended: {
+            // The log grows by a line per event: append at the end, never rebuild the document.
+            QTextCursor end(edit()->document());
+            end.movePosition(QTextCursor::End);
+            end.insertText(QString::fromUtf8(model_.LastAppended().data(), static_cast<int>(model_.LastAppended().size())));
+            edit()->verticalScrollBar()->setValue(edit()->verticalScrollBar()->maximum());
+            break;
+        }
+        case fw::Property::Style:
+            edit()->setStyleSheet(StyleFor(model_));
+            edit()->setReadOnly(model_.ReadOnly);
+            edit()->setUndoRedoEnabled(!model_.ReadOnly);
+            break;
+        default: break;
+        }
+    }
+
+private:
+    QPlainTextEdit* edit() const { return static_cast<QPlainTextEdit*>(Widget()); }
+};
+
+}  // namespace
+
+std::unique_ptr<ControlBinding> MakeTextBinding(fw::Control& control, QWidget* parent, QPoint origin,
+                                                QtPlatform& platform) {
+    auto& text = static_cast<fw::TextControl&>(control);
+    if (control.GetKind() == fw::Kind::TextField) return std::make_unique<LineEditBinding>(text, parent, origin, platform);
+    if (control.GetKind() == fw::Kind::TextArea) return std::make_unique<TextAreaBinding>(text, parent, origin, platform);
+    return nullptr;
+}
