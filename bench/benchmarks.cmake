@@ -1,1 +1,2 @@
 list(APPEND BENCH_SOURCES)
+list(APPEND BENCH_SOURCES ScriptBench.cpp)

@@ -14,6 +14,7 @@ Window1::Window1(fw::Platform& desktop) : Window("VELMORA", 800, 900), platform(
     SetUpControls();
     WireDelivery();
     WirePreferences();
+    WireWindowModes();
 }
 
 Window1::~Window1() = default;

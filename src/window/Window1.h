@@ -263,6 +263,18 @@ public:
     void CalculateRewriteForButton(std::string text);
     void PushButton1_Action();
 
+    // Window modes and tab routing.
+    void BevelButton1_Action();
+    void bevelact(const std::string& origin);
+    bool ImageWell1_MouseDown(int x, int y);
+    void PushButton2_Action();
+    bool TabPanel2_MouseDown(int x, int y);
+    void TabPanel2_Change();
+    void TabPanel1_Change();
+    void ApplyEvaluateView();
+    // The directions text of an action, on the Directions tab.
+    void WriteDirections(const std::string& caption);
+
     // Preferences.
     void ReadPreferences();
     void PushButton42_Action();
@@ -276,4 +288,5 @@ private:
     void SetUpControls();
     void WireDelivery();
     void WirePreferences();
+    void WireWindowModes();
 };

@@ -1,1 +1,5 @@
-list(APPEND TEST_SOURCES)
+list(APPEND TEST_SOURCES
+  framework/ControlsTest.cpp
+  framework/FilesTest.cpp
+  framework/XmlRegExTest.cpp
+)

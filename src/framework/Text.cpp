@@ -1,0 +1,382 @@
+#include "framework/Text.h"
+
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+namespace fw {
+
+namespace {
+
+// Folding keeps the byte length: ASCII letters, and Latin-1 capitals (0xC3 0x80-0x9E but the
+// multiplication sign) to their small letters, so folded copies line up byte for byte.
+void FoldInPlace(std::string& s) {
+    for (size_t i = 0; i < s.size(); ++i) {
+        unsigned char c = static_cast<unsigned char>(s[i]);
+        if (c >= 'A' && c <= 'Z') {
+            s[i] = static_cast<char>(c + 32);
+        } else if (c == 0xC3 && i + 1 < s.size()) {
+            unsigned char next = static_cast<unsigned char>(s[i + 1]);
+            if (next >= 0x80 && next <= 0x9E && next != 0x97) s[i + 1] = static_cast<char>(next + 32);
+            ++i;
+        }
+    }
+}
+
+std::string Folded(std::string_view s) {
+    std::string copy(s);
+    FoldInPlace(copy);
+    return copy;
+}
+
+bool IsContinuation(unsigned char c) { return (c & 0xC0) == 0x80; }
+
+// Byte offset of character `index` (0-based), or the size when past the end.
+size_t ByteOffset(std::string_view s, int index) {
+    size_t i = 0;
+    for (int n = 0; i < s.size() && n < index; ++n) {
+        ++i;
+        while (i < s.size() && IsContinuation(static_cast<unsigned char>(s[i]))) ++i;
+    }
+    return i;
+}
+
+int CharCount(std::string_view s, size_t bytes) {
+    int count = 0;
+    for (size_t i = 0; i < bytes && i < s.size(); ++i)
+        if (!IsContinuation(static_cast<unsigned char>(s[i]))) ++count;
+    return count;
+}
+
+bool IsWhite(std::string_view s, size_t i, size_t& width) {
+    unsigned char c = static_cast<unsigned char>(s[i]);
+    width = 1;
+    if (c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\v' || c == '\f') return true;
+    if (c == 0xC2 && i + 1 < s.size() && static_cast<unsigned char>(s[i + 1]) == 0xA0) {
+        width = 2;
+        return true;
+    }
+    return false;
+}
+
+// Case-blind search from byte `from`; npos if none.
+size_t FindFolded(const std::string& haystack, const std::string& needle, size_t from) {
+    if (needle.empty()) return from <= haystack.size() ? from : std::string::npos;
+    return haystack.find(needle, from);
+}
+
+std::string TrimmedExponent(int exponent) {
+    return std::string(exponent < 0 ? "-" : "+") + std::to_string(exponent < 0 ? -exponent : exponent);
+}
+
+std::string NonFinite(double value) {
+    if (std::isnan(value)) return "NaN";
+    return value < 0 ? "-INF" : "INF";
+}
+
+std::string InBase(std::int64_t value, unsigned base) {
+    std::uint32_t bits = static_cast<std::uint32_t>(value);
+    if (bits == 0) return "0";
+    std::string digits;
+    while (bits) {
+        digits.insert(digits.begin(), "0123456789ABCDEF"[bits % base]);
+        bits /= base;
+    }
+    return digits;
+}
+
+}  // namespace
+
+bool StrEq(std::string_view a, std::string_view b) { return a.size() == b.size() && Folded(a) == Folded(b); }
+
+int InStr(std::string_view source, std::string_view find) { return InStr(1, source, find); }
+
+int InStr(int start, std::string_view source, std::string_view find) {
+    if (start < 1) start = 1;
+    const std::string hay = Folded(source);
+    const std::string needle = Folded(find);
+    const size_t from = ByteOffset(source, start - 1);
+    if (from >= source.size() && !needle.empty()) return 0;
+    const size_t at = FindFolded(hay, needle, from);
+    return at == std::string::npos ? 0 : CharCount(source, at) + 1;
+}
+
+std::string NthField(std::string_view source, std::string_view separator, int n) {
+    if (n < 1) return {};
+    if (separator.empty()) return n == 1 ? std::string(source) : std::string();
+    const std::string hay = Folded(source);
+    const std::string sep = Folded(separator);
+    size_t begin = 0;
+    for (int field = 1; field < n; ++field) {
+        const size_t at = hay.find(sep, begin);
+        if (at == std::string::npos) return {};
+        begin = at + sep.size();
+    }
+    const size_t end = hay.find(sep, begin);
+    return std::string(source.substr(begin, end == std::string::npos ? std::string::npos : end - begin));
+}
+
+int CountFields(std::string_view source, std::string_view separator) {
+    if (separator.empty()) return 1;
+    const std::string hay = Folded(source);
+    const std::string sep = Folded(separator);
+    int count = 1;
+    for (size_t at = hay.find(sep); at != std::string::npos; at = hay.find(sep, at + sep.size())) ++count;
+    return count;
+}
+
+std::vector<std::string> Split(std::string_view source, std::string_view separator) {
+    std::vector<std::string> fields;
+    if (source.empty()) return fields;
+    if (separator.empty()) {
+        fields.emplace_back(source);
+        return fields;
+    }
+    const std::string hay = Folded(source);
+    const std::string sep = Folded(separator);
+    size_t begin = 0;
+    for (size_t at = hay.find(sep); at != std::string::npos; at = hay.find(sep, begin)) {
+        fields.emplace_back(source.substr(begin, at - begin));
+        begin = at + sep.size();
+    }
+    fields.emplace_back(source.substr(begin));
+    return fields;
+}
+
+std::string ReplaceAll(std::string_view source, std::string_view oldText, std::string_view newText) {
+    if (oldText.empty() || source.size() < oldText.size()) return std::string(source);
+    const std::string hay = Folded(source);
+    const std::string needle = Folded(oldText);
+    size_t at = hay.find(needle);
+    if (at == std::string::npos) return std::string(source);
+    std::string result;
+    result.reserve(source.size());
+    size_t begin = 0;
+    for (; at != std::string::npos; at = hay.find(needle, begin)) {
+        result.append(source.substr(begin, at - begin));
+        result.append(newText);
+        begin = at + needle.size();
+    }
+    result.append(source.substr(begin));
+    return result;
+}
+
+std::string LTrim(std::string_view s) {
+    size_t i = 0, width = 1;
+    while (i < s.size() && IsWhite(s, i, width)) i += width;
+    return std::string(s.substr(i));
+}
+
+std::string RTrim(std::string_view s) {
+    size_t end = s.size();
+    while (end > 0) {
+        const unsigned char last = static_cast<unsigned char>(s[end - 1]);
+        if (last == ' ' || last == '\t' || last == '\r' || last == '\n' || last == '\v' || last == '\f') --end;
+        else if (last == 0xA0 && end >= 2 && static_cast<unsigned char>(s[end - 2]) == 0xC2) end -= 2;
+        else break;
+    }
+    return std::string(s.substr(0, end));
+}
+
+std::string Trim(std::string_view s) { return RTrim(LTrim(s)); }
+
+std::string Lowercase(std::string_view s) { return Folded(s); }
+
+std::string Uppercase(std::string_view s) {
+    std::string copy(s);
+    for (size_t i = 0; i < copy.size(); ++i) {
+        unsigned char c = static_cast<unsigned char>(copy[i]);
+        if (c >= 'a' && c <= 'z') {
+            copy[i] = static_cast<char>(c - 32);
+        } else if (c == 0xC3 && i + 1 < copy.size()) {
+            unsigned char next = static_cast<unsigned char>(copy[i + 1]);
+            if (next >= 0xA0 && next <= 0xBE && next != 0xB7) copy[i + 1] = static_cast<char>(next - 32);
+            ++i;
+        }
+    }
+    return copy;
+}
+
+std::string Left(std::string_view s, int n) { return n <= 0 ? std::string() : std::string(s.substr(0, ByteOffset(s, n))); }
+
+std::string Right(std::string_view s, int n) {
+    const int length = Len(s);
+    if (n <= 0) return {};
+    if (n >= length) return std::string(s);
+    return std::string(s.substr(ByteOffset(s, length - n)));
+}
+
+std::string Mid(std::string_view s, int start, int n) {
+    if (start < 1) start = 1;
+    const size_t begin = ByteOffset(s, start - 1);
+    if (n < 0) return std::string(s.substr(begin));
+    const size_t end = begin + ByteOffset(s.substr(begin), n);
+    return std::string(s.substr(begin, end - begin));
+}
+
+int Len(std::string_view s) { return CharCount(s, s.size()); }
+
+double Val(std::string_view s) {
+    size_t i = 0;
+    while (i < s.size() && (s[i] == ' ' || s[i] == '\t')) ++i;
+    if (i + 1 < s.size() && s[i] == '&') {
+        const char kind = static_cast<char>(s[i + 1] | 0x20);
+        const int base = kind == 'h' ? 16 : kind == 'o' ? 8 : kind == 'b' ? 2 : 0;
+        if (base) {
+            double value = 0;
+            for (i += 2; i < s.size(); ++i) {
+                const char c = static_cast<char>(s[i] | 0x20);
+                const int digit = c >= '0' && c <= '9' ? c - '0' : c >= 'a' && c <= 'f' ? c - 'a' + 10 : 99;
+                if (digit >= base) break;
+                value = value * base + digit;
+            }
+            return value;
+        }
+    }
+    // Only the characters of a number go to strtod, so that nothing behind it is read.
+    std::string number;
+    if (i < s.size() && (s[i] == '+' || s[i] == '-')) number += s[i++];
+    size_t digits = 0;
+    while (i < s.size() && s[i] >= '0' && s[i] <= '9') number += s[i++], ++digits;
+    if (i < s.size() && s[i] == '.') {
+        number += s[i++];
+        while (i < s.size() && s[i] >= '0' && s[i] <= '9') number += s[i++], ++digits;
+    }
+    if (digits == 0) return 0;
+    if (i < s.size() && (s[i] == 'e' || s[i] == 'E')) {
+        size_t j = i + 1;
+        if (j < s.size() && (s[j] == '+' || s[j] == '-')) ++j;
+        if (j < s.size() && s[j] >= '0' && s[j] <= '9') {
+            number.append(s.substr(i, j - i));
+            while (j < s.size() && s[j] >= '0' && s[j] <= '9') number += s[j++];
+        }
+    }
+    return std::strtod(number.c_str(), nullptr);
+}
+
+std::string Str(double value) {
+    if (!std::isfinite(value)) return NonFinite(value);
+    if (value == 0) return "0";
+    char text[64];
+    std::snprintf(text, sizeof text, "%.6e", value);
+    const char* e = std::strchr(text, 'e');
+    const int exponent = std::atoi(e + 1);
+    if (exponent < -5 || exponent >= 7) return std::string(text, static_cast<size_t>(e - text)) + "e" + TrimmedExponent(exponent);
+    std::snprintf(text, sizeof text, "%.*f", 6 - exponent, value);
+    std::string fixed = text;
+    if (fixed.find('.') != std::string::npos) {
+        while (fixed.back() == '0') fixed.pop_back();
+        if (fixed.back() == '.') fixed.pop_back();
+    }
+    return fixed == "-0" ? "0" : fixed;
+}
+
+std::string Str(std::int64_t value) { return std::to_string(value); }
+
+std::string Format(double value, std::string_view mask) {
+    if (!std::isfinite(value)) return NonFinite(value);
+    if (mask.empty()) return Str(value);
+    // Split the mask into integer digits, fraction digits and an exponent part.
+    const size_t point = mask.find('.');
+    size_t exponentAt = std::string_view::npos;
+    for (size_t i = 0; i + 1 < mask.size(); ++i)
+        if ((mask[i] == 'e' || mask[i] == 'E') && (mask[i + 1] == '+' || mask[i + 1] == '-')) {
+            exponentAt = i;
+            break;
+        }
+    const std::string_view body = mask.substr(0, exponentAt);
+    const std::string_view integerPart = body.substr(0, point == std::string_view::npos ? body.size() : point);
+    const std::string_view fractionPart =
+        point == std::string_view::npos || point > body.size() ? std::string_view() : body.substr(point + 1);
+    int minFraction = 0, maxFraction = 0, minInteger = 0;
+    for (char c : fractionPart) {
+        if (c == '0') ++minFraction, ++maxFraction;
+        else if (c == '#') ++maxFraction;
+    }
+    for (char c : integerPart) minInteger += c == '0';
+    const bool grouping = integerPart.find(',') != std::string_view::npos;
+    std::string prefix, suffix;
+    for (char c : integerPart)
+        if (c != '0' && c != '#' && c != ',') prefix += c;
+
+    int exponent = 0;
+    double magnitude = std::fabs(value);
+    if (exponentAt != std::string_view::npos && magnitude != 0) {
+        exponent = static_cast<int>(std::floor(std::log10(magnitude)));
+        magnitude /= std::pow(10.0, exponent);
+        // Rounding may carry the mantissa to 10.
+        char probe[64];
+        std::snprintf(probe, sizeof probe, "%.*f", maxFraction, magnitude);
+        if (std::atof(probe) >= 10) magnitude /= 10, ++exponent;
+    }
+    char text[512];
+    std::snprintf(text, sizeof text, "%.*f", maxFraction, magnitude);
+    std::string digits = text;
+    std::string integer = digits.substr(0, digits.find('.'));
+    std::string fraction = digits.find('.') == std::string::npos ? std::string() : digits.substr(digits.find('.') + 1);
+    while (static_cast<int>(fraction.size()) > minFraction && !fraction.empty() && fraction.back() == '0') fraction.pop_back();
+    if (integer == "0" && minInteger == 0) integer.clear();
+    while (static_cast<int>(integer.size()) < minInteger) integer.insert(integer.begin(), '0');
+    if (grouping)
+        for (int at = static_cast<int>(integer.size()) - 3; at > 0; at -= 3) integer.insert(static_cast<size_t>(at), ",");
+    std::string result = integer;
+    if (!fraction.empty()) result += "." + fraction;
+    if (result.empty()) result = "0";
+    if (exponentAt != std::string_view::npos) {
+        const bool alwaysSign = mask[exponentAt + 1] == '+';
+        result += mask[exponentAt];
+        if (exponent < 0) result += '-';
+        else if (alwaysSign) result += '+';
+        result += std::to_string(exponent < 0 ? -exponent : exponent);
+    }
+    const bool negative = value < 0 && result.find_first_of("123456789") != std::string::npos;
+    if (prefix.find('-') != std::string::npos) prefix.erase(prefix.find('-'), 1);
+    return (negative ? "-" : "") + prefix + result + suffix;
+}
+
+std::string Hex(std::int64_t value) { return InBase(value, 16); }
+std::string Oct(std::int64_t value) { return InBase(value, 8); }
+std::string Bin(std::int64_t value) { return InBase(value, 2); }
+
+std::string Chr(int codePoint) {
+    std::string out;
+    if (codePoint < 0 || codePoint > 0x10FFFF || (codePoint >= 0xD800 && codePoint <= 0xDFFF)) return out;
+    const auto cp = static_cast<unsigned>(codePoint);
+    if (cp < 0x80) {
+        out += static_cast<char>(cp);
+    } else if (cp < 0x800) {
+        out += static_cast<char>(0xC0 | (cp >> 6));
+        out += static_cast<char>(0x80 | (cp & 0x3F));
+    } else if (cp < 0x10000) {
+        out += static_cast<char>(0xE0 | (cp >> 12));
+        out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
+        out += static_cast<char>(0x80 | (cp & 0x3F));
+    } else {
+        out += static_cast<char>(0xF0 | (cp >> 18));
+        out += static_cast<char>(0x80 | ((cp >> 12) & 0x3F));
+        out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
+        out += static_cast<char>(0x80 | (cp & 0x3F));
+    }
+    return out;
+}
+
+std::string UTF8Chr(int codePoint) { return Chr(codePoint); }
+
+std::string ReplaceLineEndings(std::string_view text, std::string_view lineEnd) {
+    std::string out;
+    out.reserve(text.size());
+    for (size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\r') {
+            out.append(lineEnd);
+            if (i + 1 < text.size() && text[i + 1] == '\n') ++i;
+        } else if (text[i] == '\n') {
+            out.append(lineEnd);
+        } else {
+            out += text[i];
+        }
+    }
+    return out;
+}
+
+}  // namespace fw
