@@ -1,4 +1,6 @@
 list(APPEND CORE_SOURCES
   calc/Evaluate.cpp
+  calc/Keypad.cpp
+  calc/Memory.cpp
   calc/Normalise.cpp
 )

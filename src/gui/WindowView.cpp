@@ -73,10 +73,13 @@ void WindowView::dragMoveEvent(QDragMoveEvent* event) {
 }
 
 void WindowView::dropEvent(QDropEvent* event) {
-    fw::DragItem item;
-    item.TextAvailable = event->mimeData()->hasText();
-    item.Text = event->mimeData()->text().toStdString();
+    if (!event->mimeData()->hasText()) return;
     event->acceptProposedAction();
+    DeliverDrop(event->mimeData()->text());
+}
+
+void WindowView::DeliverDrop(const QString& text) {
+    fw::DragItem item{true, text.toStdString()};
     fw::RunEvent(platform_, [&] { model_.Event_DropObject(&item, 0); });
 }
 

@@ -21,6 +21,8 @@ public:
     fw::Window& Model() const { return model_; }
     // The binding of a control by its model name, or nullptr.
     ControlBinding* BindingFor(const std::string& name) const;
+    // Text dropped on the window, however it came.
+    void DeliverDrop(const QString& text);
 
     void WindowResized() override;
     void WindowShown(bool visible) override;

@@ -1,10 +1,12 @@
 // velmora: the desktop program.
-//   velmora [--home DIR] [--size WxH]
-// --home keeps every file under DIR; --size forces the window to a size after start (for
-// pictures of the expanded layout).
+//   velmora [--home DIR] [--size WxH] [--screenshot FILE] [--page PANEL=N]...
+// --home keeps every file under DIR; --size forces the window to a size after start and
+// --screenshot saves a picture of the window and quits, --page turns a panel to a page (for
+// pictures of the layout).
 
 #include <QApplication>
 #include <QStringList>
+#include <QTimer>
 
 #include "framework/EventBoundary.h"
 #include "framework/Folders.h"
@@ -21,6 +23,8 @@ int main(int argc, char** argv) {
     const QStringList args = QApplication::arguments();
     fw::FolderSet folders = fw::DesktopFolders(argv[0]);
     QSize forcedSize;
+    QString screenshot;
+    QStringList pages;
     for (int i = 1; i + 1 < args.size(); ++i) {
         if (args[i] == QLatin1String("--home")) {
             const std::filesystem::path resources = folders.resources;
@@ -29,6 +33,10 @@ int main(int argc, char** argv) {
         } else if (args[i] == QLatin1String("--size")) {
             const QStringList parts = args[i + 1].split('x');
             if (parts.size() == 2) forcedSize = QSize(parts[0].toInt(), parts[1].toInt());
+        } else if (args[i] == QLatin1String("--screenshot")) {
+            screenshot = args[i + 1];
+        } else if (args[i] == QLatin1String("--page")) {
+            pages << args[i + 1];
         }
     }
 
@@ -37,6 +45,16 @@ int main(int argc, char** argv) {
     WindowView view(window, platform);
     fw::RunEvent(platform, [&] { window.Open(); });
     if (forcedSize.isValid()) window.SetSize(forcedSize.width(), forcedSize.height());
+    for (const QString& page : pages) {
+        auto* panel = dynamic_cast<fw::PanelControl*>(window.Find(page.section('=', 0, 0).toStdString()));
+        if (panel) fw::RunEvent(platform, [&] { panel->SetValue(page.section('=', 1).toInt()); });
+    }
     view.show();
+    if (!screenshot.isEmpty()) {
+        QTimer::singleShot(600, &view, [&] {
+            view.grab().save(screenshot);
+            QApplication::quit();
+        });
+    }
     return QApplication::exec();
 }

@@ -1,5 +1,6 @@
 list(APPEND CORE_SOURCES
   shell/Directions.cpp
+  shell/Help.cpp
   shell/Preferences.cpp
   shell/Startup.cpp
   shell/WindowModes.cpp

@@ -1,1 +1,3 @@
-list(APPEND CORE_SOURCES)
+list(APPEND CORE_SOURCES
+  solve/Solvers.cpp
+)

@@ -15,6 +15,12 @@ Window1::Window1(fw::Platform& desktop) : Window("VELMORA", 800, 900), platform(
     WireDelivery();
     WirePreferences();
     WireWindowModes();
+    WireKeypad();
+    WireMemory();
+    WireSolvers();
+    WireConversions();
+    WireSearch();
+    WireHelp();
 }
 
 Window1::~Window1() = default;

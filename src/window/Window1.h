@@ -263,6 +263,11 @@ public:
     void CalculateRewriteForButton(std::string text);
     void PushButton1_Action();
 
+    // The keypad and its = key.
+    void PushButton40_Action();
+    // The = key's conversion branches; false when the caption is no conversion.
+    bool ConvertFromKey(const std::string& caption, const std::string& expression);
+
     // Window modes and tab routing.
     void BevelButton1_Action();
     void bevelact(const std::string& origin);
@@ -274,6 +279,21 @@ public:
     void ApplyEvaluateView();
     // The directions text of an action, on the Directions tab.
     void WriteDirections(const std::string& caption);
+
+    // Formula memory and Evaluate (calc/Memory.cpp).
+    void WireMemory();
+
+    // The two solvers (solve/).
+    void WireSolvers();
+
+    // Conversions (convert/).
+    void WireConversions();
+
+    // Reference search (search/).
+    void WireSearch();
+
+    // Help texts, the Welcome and Help pages (shell/).
+    void WireHelp();
 
     // Preferences.
     void ReadPreferences();
@@ -289,4 +309,5 @@ private:
     void WireDelivery();
     void WirePreferences();
     void WireWindowModes();
+    void WireKeypad();
 };

@@ -1,1 +1,6 @@
-# Qt front-end tests: added with the window.
+find_package(Qt6 REQUIRED COMPONENTS Test)
+add_executable(velmora_gui_tests gui/RendererTest.cpp)
+target_include_directories(velmora_gui_tests PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+target_link_libraries(velmora_gui_tests PRIVATE velmora_gui velmora_console Qt6::Test GTest::gtest)
+target_compile_definitions(velmora_gui_tests PRIVATE VELMORA_SHIPPED_DATA_DIR="${PROJECT_SOURCE_DIR}/data")
+gtest_discover_tests(velmora_gui_tests DISCOVERY_TIMEOUT 60 PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")

@@ -1,0 +1,5 @@
+// The help texts and where they go.
+
+#include "window/Window1.h"
+
+void Window1::WireHelp() {}
