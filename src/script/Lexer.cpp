@@ -52,8 +52,13 @@ double OutOfRangeValue(std::string_view literal)
 
 bool SameName(std::string_view a, std::string_view b)
 {
-    // Names are ASCII, so folding keeps the length and the cheap test goes first.
-    return a.size() == b.size() && fw::StrEq(a, b);
+    // Folding keeps the length and never changes a first byte beyond its 0x20 bit (ASCII
+    // letters; Latin-1 letters share their UTF-8 lead byte), so the cheap tests go first.
+    if (a.size() != b.size())
+        return false;
+    if (a.empty())
+        return true;
+    return (a[0] | 0x20) == (b[0] | 0x20) && fw::StrEq(a, b);
 }
 
 Token Lexer::Make(TokenKind kind, std::size_t start, std::size_t end) const

@@ -252,6 +252,9 @@ public:
     // Drops and their twin for text given as a string.
     void Event_DropObject(const fw::DragItem* obj, int action) override;
     void ButtonAct(const std::string& text);
+    // Evaluate: the value goes behind the formula's colon and the = key runs.
+    void EvaluateValue(const std::string& text);
+    static bool IsSearchCaption(const std::string& caption);
 
     // Calculation: rewriting the text, and RUN.
     std::string fact(std::int32_t n);
@@ -288,12 +291,22 @@ public:
 
     // Conversions (convert/).
     void WireConversions();
+    // The Convert branch of a drop: `unitWord` is the word behind the first blank, or "zz".
+    void ConvertDrop(const std::string& text, const std::string& unitWord);
+    // The Convert branch of ButtonAct.
+    void ConvertButton(const std::string& text);
 
     // Reference search (search/).
     void WireSearch();
+    // A search request of a drop (fromButton false) or of ButtonAct (true), after "Entered: ".
+    void SearchRequest(const std::string& caption, const std::string& term, bool fromButton);
 
     // Help texts, the Welcome and Help pages (shell/).
     void WireHelp();
+    // Help for the action in the caption; `blink` for a drop, not for ButtonAct.
+    void HelpBranch(const std::string& text, bool blink);
+    // The Evaluate help, for "?" (and "Help" by drop).
+    void EvaluateHelp(const std::string& text);
 
     // Preferences.
     void ReadPreferences();
