@@ -10,6 +10,7 @@
 
 #include "framework/EventBoundary.h"
 #include "framework/Folders.h"
+#include "gui/MenuView.h"
 #include "gui/QtPlatform.h"
 #include "gui/WindowView.h"
 #include "window/Window1.h"
@@ -43,6 +44,7 @@ int main(int argc, char** argv) {
     QtPlatform platform(folders);
     Window1 window(platform);
     WindowView view(window, platform);
+    InstallMenus(view);
     fw::RunEvent(platform, [&] { window.Open(); });
     if (forcedSize.isValid()) window.SetSize(forcedSize.width(), forcedSize.height());
     for (const QString& page : pages) {

@@ -4,6 +4,7 @@ add_library(velmora_gui STATIC
   gui/ButtonBindings.cpp
   gui/ControlBinding.cpp
   gui/ListBindings.cpp
+  gui/MenuView.cpp
   gui/QtPlatform.cpp
   gui/TextBindings.cpp
   gui/WindowView.cpp

@@ -1,1 +1,4 @@
-list(APPEND TEST_SOURCES)
+list(APPEND TEST_SOURCES
+  shell/PreferencesTest.cpp
+  shell/WindowModesTest.cpp
+)
