@@ -1,2 +1,3 @@
 list(APPEND BENCH_SOURCES)
 list(APPEND BENCH_SOURCES ScriptBench.cpp)
+list(APPEND BENCH_SOURCES DropBench.cpp)

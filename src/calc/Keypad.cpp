@@ -55,7 +55,7 @@ void Window1::PushButton40_Action() {
     const std::string caption = BevelButton1.Caption();
     if (StrEq(caption, "convert") && !StrEq(PopupMenu2.Text(), "Number")) e = Str(Val(e));
     if (StrEq(caption, "calculate") || StrEq(caption, "evaluate")) {
-        unt.assign(1, ' ');
+        unt = " ";
         if (RadioButton4.Value() && InStr(e, "log(") > 0) e = ReplaceAll(e, "log(", "log10(");
         if (RadioButton2.Value()) {
             const std::pair<const char*, const char*> degrees[] = {

@@ -45,6 +45,9 @@ std::string Window1::PurgePretty(const std::string& text) {
 }
 
 std::string Window1::ReplaceFactorials(std::string text) {
+    // Without a "!" the pattern cannot match; most texts have none, and compiling it costs more
+    // than the whole calculation.
+    if (text.find('!') == std::string::npos) return text;
     RegEx factorial;
     factorial.SearchPattern = "\\d+!";
     // Later matches come from the text as it was at the first search, not the rewritten one.
