@@ -1,3 +1,4 @@
 list(APPEND BENCH_SOURCES)
 list(APPEND BENCH_SOURCES ScriptBench.cpp)
 list(APPEND BENCH_SOURCES DropBench.cpp)
+list(APPEND BENCH_SOURCES ConvertBench.cpp)

@@ -1,14 +1,17 @@
-// Conversions on the target and through the = key.
+// Subsystem 4, unit conversion: its handlers joined to their controls.
 
 #include "window/Window1.h"
 
-void Window1::WireConversions() {}
-
-bool Window1::ConvertFromKey(const std::string& caption, const std::string& expression) {
-    (void)caption, (void)expression;
-    return false;
+void Window1::WireConversions() {
+    PopupMenu2.Open = [this] { PopupMenu2_Open(); };
+    PopupMenu2.Change = [this] { PopupMenu2_Change(); };
+    popconvert.Change = [this] { popconvert_Change(); };
+    popconvert.MouseDown = [this](int x, int y) { return popconvert_MouseDown(x, y); };
+    popconvert.MouseExit = [this] { popconvert_MouseExit(); };
+    Listbox1.CellClick = [this](int row, int column, int x, int y) { return Listbox1_CellClick(row, column, x, y); };
+    Listbox2.CellClick = [this](int row, int column, int x, int y) { return Listbox2_CellClick(row, column, x, y); };
+    RadioButton7.Action = [this] { RadioButton7_Action(); };
+    RadioButton8.Action = [this] { RadioButton8_Action(); };
+    RadioButton9.Action = [this] { RadioButton9_Action(); };
+    PushButton44.Action = [this] { PushButton44_Action(); };
 }
-
-void Window1::ConvertDrop(const std::string& text, const std::string& unitWord) { (void)text, (void)unitWord; }
-
-void Window1::ConvertButton(const std::string& text) { (void)text; }

@@ -1,3 +1,6 @@
 list(APPEND CORE_SOURCES
   convert/Conversions.cpp
+  convert/ConversionTable.cpp
+  convert/TargetConversions.cpp
+  convert/ConvertTab.cpp
 )

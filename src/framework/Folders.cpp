@@ -48,6 +48,7 @@ FolderSet DesktopFolders(const fs::path& executable) {
 FolderSet HomeFolders(const fs::path& home) {
     FolderSet folders{home / "prefs", home / "data", home / "app", home / "resources"};
     std::error_code error;
+    fs::create_directories(folders.applicationData, error);
     fs::create_directories(folders.preferences, error);
     fs::create_directories(folders.application, error);
     return folders;

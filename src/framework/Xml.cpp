@@ -24,6 +24,13 @@ std::string XmlNode::GetAttribute(const std::string& name) const {
 
 XmlNodeList XmlNode::Xql(const std::string& query) const {
     std::vector<pugi::xml_node> nodes;
+    // A plain child name is by far the common query; it needs no XPath compiler.
+    if (!query.empty() && query.find_first_of("/[]@()*:.|=!<> '\"$") == std::string::npos &&
+        !(query[0] >= '0' && query[0] <= '9') && query[0] != '-') {
+        for (pugi::xml_node child = node_.child(query.c_str()); child; child = child.next_sibling(query.c_str()))
+            nodes.push_back(child);
+        return XmlNodeList(document_, std::move(nodes));
+    }
     try {
         pugi::xpath_query compiled(query.c_str());
         for (const pugi::xpath_node& found : compiled.evaluate_node_set(node_))

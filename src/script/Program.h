@@ -73,8 +73,6 @@ public:
     // Runs to the end or to the first run-time fault, which goes to hooks and stops the run.
     void Run(ScriptContext* context, RunHooks& hooks) const;
 
-    const std::vector<Instruction>& Code() const { return code_; }
-
 private:
     void Track(Op op);
 

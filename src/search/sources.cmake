@@ -1,3 +1,5 @@
 list(APPEND CORE_SOURCES
-  search/Search.cpp
+  search/ReferenceLists.cpp
+  search/Searchers.cpp
+  search/SearchTab.cpp
 )

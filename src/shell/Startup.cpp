@@ -1,5 +1,6 @@
 // From the built window to the small target that waits for a drop.
 
+#include "framework/EventBoundary.h"
 #include "framework/Text.h"
 #include "window/Window1.h"
 
@@ -26,8 +27,10 @@ const DataFileReport kDataFiles[] = {
 }  // namespace
 
 void Window1::Open() {
-    OpenControls();
-    Event_Open();
+    // Each Open event is an event of its own: a control whose data is damaged must not keep
+    // the rest of the window from opening.
+    for (Control* control : Controls()) RunEvent(platform, [control] { control->FireOpen(); });
+    RunEvent(platform, [this] { Event_Open(); });
 }
 
 void Window1::Event_Open() {

@@ -284,12 +284,48 @@ public:
     void WriteDirections(const std::string& caption);
 
     // Formula memory and Evaluate (calc/Memory.cpp).
+    void PushButton33_Action();
+    void PushButton34_Action();
+    void Listbox3_Open();
+    void Listbox3_Close();
+    bool Listbox3_CellClick(int row, int column, int x, int y);
+    void PushButton46_Action();
     void WireMemory();
 
     // The two solvers (solve/).
+    void PushButton41_Action();
+    void EditA_TextChange();
+    void EditB_TextChange();
+    void EditC_TextChange();
+    void PushButton45_Action();
+    // Each resets the result line and lets the key through.
+    bool A1_KeyDown(const std::string& key);
+    bool B1_KeyDown(const std::string& key);
+    bool C1_KeyDown(const std::string& key);
+    bool D2_KeyDown(const std::string& key);
+    bool E2_KeyDown(const std::string& key);
+    bool F2_KeyDown(const std::string& key);
     void WireSolvers();
 
     // Conversions (convert/).
+    // The loader of convert.txt, and the sort of the category rows it calls.
+    void PopupMenu2_Open();
+    void popmenu();
+    void PopupMenu2_Change();
+    void popconvert_Change();
+    bool popconvert_MouseDown(int x, int y);
+    void popconvert_MouseExit();
+    // `index` is always PopupMenu2's ListIndex and is not read.
+    std::string evconvert(std::int32_t index);
+    void evconvert2(const std::string& text);
+    std::string evconvert3(const std::string& text);
+    // The Convert tab.
+    bool Listbox1_CellClick(int row, int column, int x, int y);
+    bool Listbox2_CellClick(int row, int column, int x, int y);
+    void RadioButton7_Action();
+    void RadioButton8_Action();
+    void RadioButton9_Action();
+    void PushButton44_Action();
     void WireConversions();
     // The Convert branch of a drop: `unitWord` is the word behind the first blank, or "zz".
     void ConvertDrop(const std::string& text, const std::string& unitWord);
@@ -300,6 +336,29 @@ public:
     void WireSearch();
     // A search request of a drop (fromButton false) or of ButtonAct (true), after "Entered: ".
     void SearchRequest(const std::string& caption, const std::string& term, bool fromButton);
+    void TabPanel2_Open();
+    std::string clean(const std::string& text);
+    std::string SmartParse(const std::string& term);
+    void physical(const std::string& term);
+    void astronomical(const std::string& term);
+    void mathematical(const std::string& term);
+    void SearchFile(const std::string& term, const char* file, const char* clipboardReport, const char* logReport);
+    // The controls of one page of the Search tab: 0 physics, 1 astronomy, 2 math formulas.
+    struct SearchPage {
+        fw::TextField& field;
+        fw::Listbox& terms;
+        std::vector<std::string>& summaries;
+        fw::PopupMenu& adds;
+        fw::PushButton& search;
+        fw::Listbox* results;  // none on the math page
+        fw::TextArea& detail;
+        fw::TextArea& errorArea;
+    };
+    SearchPage SearchPageOf(int page);
+    bool PrimaryTermClick(int page, int row, int column);
+    void AddsChange(int page);
+    void SearchButton(int page);
+    void ShowResults(const std::string& caption);
 
     // Help texts, the Welcome and Help pages (shell/).
     void WireHelp();

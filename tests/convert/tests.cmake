@@ -1,1 +1,5 @@
-list(APPEND TEST_SOURCES)
+list(APPEND TEST_SOURCES
+  convert/ConversionTableTest.cpp
+  convert/TargetConversionsTest.cpp
+  convert/ConvertTabTest.cpp
+)

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
@@ -21,13 +24,29 @@
 #include "support/Session.h"
 
 namespace {
+// Qt's desktop, except that message boxes are kept: a modal box would wait for a click forever.
+struct TestPlatform : QtPlatform {
+    using QtPlatform::QtPlatform;
+    void MsgBox(const std::string& message) override { messages.push_back(message); }
+    std::vector<std::string> messages;
+};
+
+fw::FolderSet HomeWithShippedData() {
+    const std::filesystem::path home = ScratchHome("gui");
+    InstallShippedData(home);
+    return fw::HomeFolders(home);
+}
+
 struct Screen {
-    Screen() : platform(fw::HomeFolders(ScratchHome("gui"))), window(platform), view(window, platform) { window.Open(); }
+    Screen() : platform(HomeWithShippedData()), window(platform), view(window, platform) {
+        window.Open();
+        EXPECT_EQ(platform.messages, std::vector<std::string>{});
+    }
     template <class W>
     W* widget(const char* name) {
         return qobject_cast<W*>(view.BindingFor(name)->Widget());
     }
-    QtPlatform platform;
+    TestPlatform platform;
     Window1 window;
     WindowView view;
 };

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <sstream>
 #include <string>
+#include <type_traits>
 
 #include <unistd.h>
 
@@ -28,6 +29,11 @@ inline void InstallShippedData(const std::filesystem::path& home) {
 struct Session {
     explicit Session(const std::string& name, bool withData = false)
         : home(Prepare(name, withData)), console(fw::HomeFolders(home)) {}
+    // A home that `prepare(home)` fills before the program starts, e.g. with data files of a
+    // test's own under home/"data"/"VLSupport".
+    template <class Fill, class = std::enable_if_t<std::is_invocable_v<Fill, const std::filesystem::path&>>>
+    Session(const std::string& name, Fill prepare)
+        : home(PrepareWith(name, prepare)), console(fw::HomeFolders(home)) {}
 
     // Runs console commands, one a line; returns what they printed.
     std::string Run(const std::string& commands) {
@@ -56,6 +62,12 @@ private:
     static std::filesystem::path Prepare(const std::string& name, bool withData) {
         std::filesystem::path home = ScratchHome(name);
         if (withData) InstallShippedData(home);
+        return home;
+    }
+    template <class Fill>
+    static std::filesystem::path PrepareWith(const std::string& name, Fill& prepare) {
+        std::filesystem::path home = ScratchHome(name);
+        prepare(static_cast<const std::filesystem::path&>(home));
         return home;
     }
 };

@@ -1,0 +1,87 @@
+// Finding entries of a reference file for a term, and composing the answer in EditField1.
+
+#include "framework/RegEx.h"
+#include "framework/Text.h"
+#include "window/Window1.h"
+
+using namespace fw;
+
+std::string Window1::SmartParse(const std::string& term) {
+    std::string parsed = term;
+    for (const char* article : {"^the ", "^a ", "^an "}) {
+        RegEx leading;
+        leading.SearchPattern = article;
+        leading.ReplacementPattern = "";
+        parsed = leading.Replace(parsed);
+    }
+    for (const char* filler : {" the ", " a ", " an ", " of ", " for "}) parsed = ReplaceAll(parsed, filler, " ");
+    for (const char* blanks : {"     ", "    ", "   ", "  "}) parsed = ReplaceAll(parsed, blanks, " ");
+    return RTrim(LTrim(parsed));
+}
+
+void Window1::physical(const std::string& term) {
+    SearchFile(term, "physicaldata.txt", "Physical Data file is missing. See log at startup.",
+               "Physical Data file is missing. See log at startup.");
+}
+
+void Window1::astronomical(const std::string& term) {
+    SearchFile(term, "AstrDataXML.txt", "Astro Data file is missing. See log at startup.",
+               "AstroData file is missing. See log at startup.");
+}
+
+void Window1::mathematical(const std::string& term) {
+    SearchFile(term, "Mathformulas.txt", "Math Formulas file is missing. See log at startup.",
+               "MathFormula file is missing. See log at startup.");
+}
+
+void Window1::SearchFile(const std::string& term, const char* file, const char* clipboardReport, const char* logReport) {
+    bool wordFlag = true;
+    FolderItemRef item = platform.Folder(SpecialFolder::ApplicationData)->Child("VLSupport")->Child(file);
+    if (!item) {
+        Clipboard clipboard(platform);
+        clipboard.SetText(clipboardReport);
+        LogLine(logReport);
+        clipboard.Close();
+        PlayClaves();
+        return;
+    }
+    TextInputStreamRef in = item->OpenAsTextFile();
+    XmlDocument document(ReplaceLineEndings(in->ReadAll(), EndOfLine));
+    XmlNodeList categories = document.Child(0)->Xql("Category");
+    const std::vector<std::string> words = Split(term, " ");
+    const std::string tail = "\t(" + Str(BevelButton1.MenuValue()) + "-";
+    for (int index = 0; index < categories.Length(); ++index) {
+        XmlNodeRef category = categories.Item(index);
+        const std::string marker = EditField1.Text().empty() ? term : "\t";
+        const std::string key = category->Xql("Key").Item(0)->Child(0)->Value();
+        if (RadioButton5.Value())
+            for (const std::string& word : words)
+                if (InStr(key, word) == 0) wordFlag = false;
+        if (InStr(key, term) != 0 || wordFlag) {
+            const std::string value = ReplaceLineEndings(category->Xql("Value").Item(0)->Child(0)->Value(), EndOfLine);
+            // Appended, not rebuilt: a Literal search lists the whole file.
+            EditField1.AppendText(EndOfLine + marker + ": " + value + tail + Str(index) + ")");
+        }
+        wordFlag = true;
+    }
+}
+
+void Window1::SearchRequest(const std::string& caption, const std::string& term, bool fromButton) {
+    Clipboard clipboard(platform);
+    const std::string searched = RadioButton5.Value() ? SmartParse(term) : term;
+    EditField1.SetText("");
+    if (StrEq(caption, "physical data")) physical(searched);
+    else if (StrEq(caption, "astro data")) astronomical(searched);
+    else mathematical(searched);
+    if (EditField1.Text().empty()) {
+        LogLine("Error: Search Term not found");
+        LogLine("Try words in a different order or use a single word or part of a word");
+        return;
+    }
+    clipboard.SetText(EditField1.Text());
+    LogLine("Output:" + EditField1.Text());
+    if (!fromButton) Blink();
+    clipboard.Close();
+    if (fromButton) ShowResults(caption);
+    platform.Beep();
+}
