@@ -23,7 +23,9 @@ bool FolderItem::Directory() const {
 
 FolderItemRef FolderItem::Child(const std::string& name) const {
     if (!Directory()) return nullptr;
-    return MakeRef<FolderItem>(path_ / name);
+    FolderItemRef child = MakeRef<FolderItem>(path_ / name, lookup_);
+    if (lookup_ == Lookup::ExistingOnly && !child->Exists()) return nullptr;
+    return child;
 }
 
 bool FolderItem::CreateAsFolder() const {

@@ -20,14 +20,19 @@ using TextOutputStreamRef = Ref<TextOutputStream>;
 
 class FolderItem {
 public:
-    explicit FolderItem(std::filesystem::path path) : path_(std::move(path)) {}
+    // A folder the program only reads from (the reference data) lists just what is there: its
+    // missing children are nil, so that "file is missing" can be told at the lookup.
+    enum class Lookup { AnyName, ExistingOnly };
+    explicit FolderItem(std::filesystem::path path, Lookup lookup = Lookup::AnyName)
+        : path_(std::move(path)), lookup_(lookup) {}
     const std::filesystem::path& Path() const { return path_; }
     std::string Name() const { return path_.filename().string(); }
 
     bool Exists() const;
     bool Directory() const;
     // The item of that name inside this folder: nil when this folder does not exist; an item
-    // whose Exists is false when the folder exists and the name does not.
+    // whose Exists is false when the folder exists and the name does not, or nil for an
+    // ExistingOnly folder.
     FolderItemRef Child(const std::string& name) const;
     // Makes the folder and its parents; false if it cannot.
     bool CreateAsFolder() const;
@@ -41,6 +46,7 @@ public:
 
 private:
     std::filesystem::path path_;
+    Lookup lookup_;
 };
 
 class TextInputStream {

@@ -1,5 +1,7 @@
 #include "framework/Folders.h"
 
+#include "framework/Platform.h"
+
 #include <cstdlib>
 #include <system_error>
 
@@ -52,6 +54,17 @@ FolderSet HomeFolders(const fs::path& home) {
     fs::create_directories(folders.preferences, error);
     fs::create_directories(folders.application, error);
     return folders;
+}
+
+FolderItemRef SpecialFolderItem(const FolderSet& folders, SpecialFolder which) {
+    switch (which) {
+    case SpecialFolder::Preferences: return MakeRef<FolderItem>(folders.preferences);
+    case SpecialFolder::ApplicationData:
+        return MakeRef<FolderItem>(folders.applicationData, FolderItem::Lookup::ExistingOnly);
+    case SpecialFolder::Application: return MakeRef<FolderItem>(folders.application);
+    case SpecialFolder::Resources: return MakeRef<FolderItem>(folders.resources);
+    }
+    return nullptr;
 }
 
 }  // namespace fw

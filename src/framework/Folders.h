@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <string>
 
+#include "framework/FolderItem.h"
+
 namespace fw {
 
 struct FolderSet {
@@ -12,6 +14,11 @@ struct FolderSet {
     std::filesystem::path application;      // VLmemory.txt and saved logs
     std::filesystem::path resources;        // pictures and sounds
 };
+
+enum class SpecialFolder;
+
+// The item for one of the platform's special folders; the data folder is lookup-only.
+Ref<FolderItem> SpecialFolderItem(const FolderSet& folders, SpecialFolder which);
 
 // The XDG folders ($XDG_CONFIG_HOME/velmora, $XDG_DATA_HOME/velmora); the data folder falls back
 // to the shipped data beside the installed program, or in the source tree, while the user's own

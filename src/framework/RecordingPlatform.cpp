@@ -11,15 +11,7 @@ void RecordingPlatform::SetClipboardText(const std::string& text) {
     ++clipboardWrites;
 }
 
-FolderItemRef RecordingPlatform::Folder(SpecialFolder which) {
-    switch (which) {
-    case SpecialFolder::Preferences: return MakeRef<FolderItem>(folders.preferences);
-    case SpecialFolder::ApplicationData: return MakeRef<FolderItem>(folders.applicationData);
-    case SpecialFolder::Application: return MakeRef<FolderItem>(folders.application);
-    case SpecialFolder::Resources: return MakeRef<FolderItem>(folders.resources);
-    }
-    return nullptr;
-}
+FolderItemRef RecordingPlatform::Folder(SpecialFolder which) { return SpecialFolderItem(folders, which); }
 
 std::string RecordingPlatform::ShortDate(std::time_t moment) { return UsShortDate(moment); }
 std::string RecordingPlatform::ShortTime(std::time_t moment) { return UsShortTime(moment); }

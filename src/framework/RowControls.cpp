@@ -24,11 +24,10 @@ void RowControl::AddRow(const std::string& text) {
 }
 
 void RowControl::DeleteAllRows() {
+    // Emptying is no choice of the user's: the selection goes without a Change event.
     rows_.clear();
-    const bool hadSelection = listIndex_ != -1;
     listIndex_ = -1;
     Notify(Property::Rows);
-    if (hadSelection && Change) Change();
 }
 
 void RowControl::RemoveRow(int row) {

@@ -50,15 +50,7 @@ bool QtPlatform::AsyncShiftKey() {
     return QGuiApplication::queryKeyboardModifiers().testFlag(Qt::ShiftModifier);
 }
 
-fw::FolderItemRef QtPlatform::Folder(fw::SpecialFolder which) {
-    switch (which) {
-    case fw::SpecialFolder::Preferences: return fw::MakeRef<fw::FolderItem>(folders_.preferences);
-    case fw::SpecialFolder::ApplicationData: return fw::MakeRef<fw::FolderItem>(folders_.applicationData);
-    case fw::SpecialFolder::Application: return fw::MakeRef<fw::FolderItem>(folders_.application);
-    case fw::SpecialFolder::Resources: return fw::MakeRef<fw::FolderItem>(folders_.resources);
-    }
-    return nullptr;
-}
+fw::FolderItemRef QtPlatform::Folder(fw::SpecialFolder which) { return fw::SpecialFolderItem(folders_, which); }
 
 std::time_t QtPlatform::Now() { return std::time(nullptr); }
 

@@ -47,7 +47,7 @@ void Window1::Event_Open() {
     FolderItemRef data = platform.Folder(SpecialFolder::ApplicationData);
     FolderItemRef support = data ? data->Child("VLSupport") : FolderItemRef();
     for (const DataFileReport& report : kDataFiles) {
-        // Only a nil handle counts as missing: a folder without the file passes, as it always has.
+        // Only a nil handle counts as missing; the file is not opened here.
         if (support && support->Child(report.file)) {
             LogLine(report.present);
         } else {

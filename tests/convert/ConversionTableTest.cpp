@@ -58,7 +58,7 @@ struct Broken {
 };
 
 const Broken kBroken[] = {
-    {"NoSupportFolder", nullptr, "FolderItem convert.txt does not exist! See startup log", "||"},
+    {"NoSupportFolder", nullptr, "An exception of class NilObjectException was not handled. (nil object)", "||"},
     {"NotXml", "<Conversions><Category>", "Error in reading XML file in Application Data", "||"},
     {"SubListWithoutText", "<C><Category><Name>P</Name><List><SubList convert=\"*2\"/></List></Category></C>",
      "An exception of class NilObjectException was not handled. (nil object)", "P"},

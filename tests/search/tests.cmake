@@ -1,1 +1,3 @@
-list(APPEND TEST_SOURCES)
+list(APPEND TEST_SOURCES
+  search/SearchTest.cpp
+)

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include <fstream>
 
 #include "support/Session.h"
@@ -62,6 +64,7 @@ TEST(Preferences, DamagedFilesApplyWhatCanBeRead) {
     };
     for (const Case& c : cases) {
         const auto home = ScratchHome("prefs-damaged");
+        InstallShippedData(home);
         WritePreferences(home, c.content);
         Console console(fw::HomeFolders(home));
         EXPECT_EQ(console.window.RadioButton1.Value(), c.radians) << c.content.substr(0, 40);
@@ -92,9 +95,12 @@ TEST(Startup, MissingDataFolderReportsEveryFile) {
     EXPECT_EQ(s.w().unt, " ");
 }
 
-TEST(Startup, AFolderWithoutTheFileClaimsItLoaded) {
+TEST(Startup, AFolderWithoutTheFileSaysSo) {
     const auto home = ScratchHome("startup-folder");
     std::filesystem::create_directories(home / "data" / "VLSupport");
     Console console(fw::HomeFolders(home));
-    EXPECT_NE(console.window.EditField2.Text().find("Conversion Data from XML file loaded\n"), std::string::npos);
+    EXPECT_NE(console.window.EditField2.Text().find("Conversion Data from XML file not loaded\n"), std::string::npos);
+    const auto& messages = console.platform.messages;
+    EXPECT_NE(std::find(messages.begin(), messages.end(), "FolderItem convert.txt does not exist! See startup log"),
+              messages.end());
 }

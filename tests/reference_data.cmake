@@ -1,0 +1,37 @@
+# The shipped reference files: their format, and figures that must stand in them.
+set(REFDATA_CHECK ${PROJECT_SOURCE_DIR}/tools/check_refdata.py)
+set(REFDATA_DIR ${PROJECT_SOURCE_DIR}/data/VLSupport)
+
+add_test(NAME ReferenceData.Physics COMMAND python3 ${REFDATA_CHECK} ${REFDATA_DIR}/physicaldata.txt --quiet
+  "--expect=electron mass=>9.1093837015"
+  "--expect=speed light=>299792458"
+  "--expect=Planck constant=>6.62607015"
+  "--expect=avogadro=>6.02214076"
+  "--expect=boltzmann=>1.380649"
+  "--expect=proton mass=>1.67262192"
+  "--expect=gravitation=>6.674"
+  "--expect=element iron=>55.845"
+  "--expect=element oganesson=>118"
+  "--expect=Co-60=>5.27"
+  "--expect=coal=>"
+  "--expect=cast iron=>7.")
+add_test(NAME ReferenceData.Astronomy COMMAND python3 ${REFDATA_CHECK} ${REFDATA_DIR}/AstrDataXML.txt --quiet
+  "--expect=NEPTUNE MOONS=>Triton"
+  "--expect=Galaxy Andromeda=>M31"
+  "--expect=moon mass=>7.34"
+  "--expect=earth mass=>5.97"
+  "--expect=sun mass=>1.9885"
+  "--expect=star sirius=>-1.4"
+  "--expect=constellation orion=>"
+  "--expect=comet halley=>"
+  "--expect=asteroid ceres=>")
+add_test(NAME ReferenceData.Math COMMAND python3 ${REFDATA_CHECK} ${REFDATA_DIR}/Mathformulas.txt --quiet
+  "--expect=volume sphere=>4/3"
+  "--expect=area circle=>PI*r^2"
+  "--expect=trigonometry=>sin"
+  "--expect=Finance compound=>"
+  "--expect=probability=>"
+  "--expect=kinematics=>"
+  "--expect=perimeter=>"
+  "--expect=vectors=>"
+  "--expect=algebra quadratic=>")
