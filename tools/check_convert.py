@@ -1,0 +1,487 @@
+#!/usr/bin/env python3
+"""Check the unit conversion table convert.txt.
+
+Usage:
+    check_convert.py [--file PATH] [--quiet]
+
+PATH defaults to data/VLSupport/convert.txt under the repository that holds this script.
+
+Format checks (what the loader and the conversion paths can cope with):
+  * ASCII only, no control characters but tab, CR and LF;
+  * well-formed XML whose very first node is the root element <Conversions>: no XML
+    declaration, comment or processing instruction before it, no CDATA section anywhere;
+  * every Category has a Name whose content is plain, non-empty text without ";";
+  * every SubList holds plain, non-empty text (one text node: no child element or comment)
+    with exactly one "->", something on both sides, no ";", ":" or blank (the answer's unit
+    text is the part after "->", and the Convert tab splits units at blanks);
+  * no label twice in a category, no category name twice (names compare without case);
+  * "Number" and "Temperature" hold exactly the labels their fixed rules know, and no
+    convert attribute (their arithmetic is built in);
+  * every other row has convert="*NUMBER" or "/NUMBER", with NUMBER in the form the script
+    lexer reads: digits, optional "." and digits, optional exponent such as e-19.
+
+Factor checks:
+  * every row a->b has its reverse b->a in the same category, and the two factors
+    multiply to 1 within 1e-12 (relative);
+  * every factor agrees with UNITS below, an independent table of the units in SI base
+    units, to 1e-9 (relative), and both sides of the label have the same dimension. Rows
+    in ROUNDED are allowed the looser tolerance given there, with the reason.
+
+Prints the number of rows per category and in total. Exit status: 0 when every check
+passes, 1 when a check fails, 2 on a usage error. Uses the Python standard library only.
+"""
+
+import math
+import os
+import re
+import sys
+import xml.etree.ElementTree as ET
+
+FACTOR_TOLERANCE = 1e-9
+REVERSE_TOLERANCE = 1e-12
+MAX_SHOWN = 40
+
+# The labels the built-in rules recognise; any other label in these two categories does nothing.
+NUMBER_LABELS = [
+    "Decimal(Integer)->Hex", "Hex->Decimal", "Decimal->Oct", "Oct->Decimal",
+    "Decimal->Binary", "Binary->Decimal",
+]
+TEMPERATURE_LABELS = [
+    "Fahrenheit(F)->C", "Celsius/Centigrade(C)->F", "Kelvin(K)->C", "C->K", "Rankine(R)->F",
+    "F->R", "R->K", "K->R", "F->K", "K->F",
+]
+FIXED_RULES = {"Number": NUMBER_LABELS, "Temperature": TEMPERATURE_LABELS}
+
+REQUIRED_CATEGORIES = [
+    "Length", "Area", "Volume", "Capacity", "Mass", "Time", "Speed", "Acceleration", "Force",
+    "Pressure", "Energy", "Power", "Density", "Angle", "Frequency", "Electric", "Data",
+    "Fuel economy", "Number", "Temperature",
+]
+
+# Rows every version of the table keeps, fragment and all: the worked examples of conversion.
+REQUIRED_ROWS = [
+    ("Power", "hp->W", "*745.7"),
+    ("Time", "hr->s", "*3600"),
+    ("Area", "ft^2->m^2", "*0.09290304"),
+]
+
+# (category, label): (relative tolerance, reason).
+ROUNDED = {
+    ("Power", "hp->W"): (1e-6, "745.7 W is the customary figure; 550 ft*lbf/s is 745.69987 W"),
+    ("Power", "W->hp"): (1e-6, "reverse of hp->W, same rounded 745.7"),
+    ("Power", "hp->kW"): (1e-6, "0.7457 kW, kept in step with hp->W"),
+    ("Power", "kW->hp"): (1e-6, "reverse of hp->kW"),
+}
+
+NUMBER_RE = re.compile(r"^[0-9]+(\.[0-9]+)?([eE][+-]?[0-9]+)?$")
+FRAGMENT_RE = re.compile(r"^([*/])(.*)$")
+
+
+class Q:
+    """A quantity: a value in SI base units and the exponents of its dimension."""
+
+    DIMS = ("m", "kg", "s", "A", "rad", "bit")
+
+    def __init__(self, value, dims=(0, 0, 0, 0, 0, 0)):
+        self.value = float(value)
+        self.dims = tuple(dims)
+
+    def __mul__(self, other):
+        if not isinstance(other, Q):
+            return Q(self.value * other, self.dims)
+        return Q(self.value * other.value, tuple(a + b for a, b in zip(self.dims, other.dims)))
+
+    __rmul__ = __mul__
+
+    def __truediv__(self, other):
+        if not isinstance(other, Q):
+            return Q(self.value / other, self.dims)
+        return Q(self.value / other.value, tuple(a - b for a, b in zip(self.dims, other.dims)))
+
+    def __pow__(self, n):
+        return Q(self.value ** n, tuple(a * n for a in self.dims))
+
+    def dimension(self):
+        parts = [f"{d}^{e}" if e != 1 else d for d, e in zip(self.DIMS, self.dims) if e]
+        return "*".join(parts) or "1"
+
+
+def _base(index):
+    dims = [0] * len(Q.DIMS)
+    dims[index] = 1
+    return Q(1, dims)
+
+
+def build_units():
+    """Units by their own definitions, in SI base units.
+
+    Written from the defining relations (a yard is 0.9144 m, a US gallon 231 in^3, an IT BTU
+    is an IT calorie per gram per kelvin times a pound over 1.8) rather than from the factors
+    in the file, so that a wrong factor there cannot hide behind the same slip here.
+
+    Angles get a dimension of their own, and Hz and rpm count revolutions per time: that is
+    how rpm->Hz is 1/60 while rpm->rad/s is 2*pi/60.
+    """
+    m, kg, s, A, rad, bit = (_base(i) for i in range(6))
+    u = {}
+    u.update(m=m, kg=kg, s=s, A=A, rad=rad, bit=bit)
+    # Length
+    u["km"], u["cm"], u["mm"], u["um"], u["nm"] = 1e3 * m, 1e-2 * m, 1e-3 * m, 1e-6 * m, 1e-9 * m
+    u["Angstrom"] = 1e-10 * m
+    u["yd"] = 0.9144 * m
+    u["ft"] = u["yd"] / 3
+    u["in"] = u["ft"] / 12
+    u["mil"] = u["in"] / 1000
+    u["mi"] = 1760 * u["yd"]
+    u["nmi"] = 1852 * m
+    u["ft(US)"] = 1200 / 3937 * m
+    u["mi(US)"] = 5280 * u["ft(US)"]
+    u["au"] = 149597870700 * m
+    u["pc"] = u["au"] * (648000 / math.pi)
+    # Time
+    u["ms"] = 1e-3 * s
+    u["min"] = 60 * s
+    u["hr"] = 60 * u["min"]
+    u["day"] = 24 * u["hr"]
+    u["wk"] = 7 * u["day"]
+    u["yr"] = 365.25 * u["day"]  # Julian year, the one the light-year is defined with
+    # Speed, and the light-year from it
+    u["c"] = 299792458 * m / s
+    u["ly"] = u["c"] * u["yr"]
+    u["knot"] = u["nmi"] / u["hr"]
+    # Area and volume
+    u["ha"] = 1e4 * m ** 2
+    u["acre"] = 4840 * u["yd"] ** 2
+    u["L"] = 1e-3 * m ** 3
+    u["mL"] = u["L"] / 1000
+    u["gal(US)"] = 231 * u["in"] ** 3
+    u["qt(US)"] = u["gal(US)"] / 4
+    u["pt(US)"] = u["qt(US)"] / 2
+    u["cup(US)"] = u["pt(US)"] / 2
+    u["fl.oz(US)"] = u["cup(US)"] / 8
+    u["tbsp(US)"] = u["fl.oz(US)"] / 2
+    u["tsp(US)"] = u["tbsp(US)"] / 3
+    u["bbl(oil)"] = 42 * u["gal(US)"]
+    u["gal(UK)"] = 4.54609 * u["L"]
+    u["pt(UK)"] = u["gal(UK)"] / 8
+    u["fl.oz(UK)"] = u["pt(UK)"] / 20
+    # Mass
+    u["g"] = kg / 1000
+    u["mg"] = u["g"] / 1000
+    u["t"] = 1000 * kg
+    u["lb"] = 0.45359237 * kg
+    u["oz"] = u["lb"] / 16
+    u["st"] = 14 * u["lb"]
+    u["ton(US)"] = 2000 * u["lb"]
+    u["ton(UK)"] = 2240 * u["lb"]
+    u["gr"] = u["lb"] / 7000
+    u["oz(troy)"] = 480 * u["gr"]
+    u["ct"] = 200 * u["mg"]
+    u["u"] = 1.66053906892e-27 * kg  # CODATA 2022
+    # Acceleration and force
+    u["g0"] = 9.80665 * m / s ** 2
+    u["N"] = kg * m / s ** 2
+    u["kN"] = 1000 * u["N"]
+    u["dyn"] = u["g"] * u["cm"] / s ** 2
+    u["lbf"] = u["lb"] * u["g0"]
+    u["kgf"] = kg * u["g0"]
+    u["ozf"] = u["oz"] * u["g0"]
+    u["kip"] = 1000 * u["lbf"]
+    u["pdl"] = u["lb"] * u["ft"] / s ** 2
+    u["slug"] = u["lbf"] * s ** 2 / u["ft"]
+    # Pressure
+    u["Pa"] = u["N"] / m ** 2
+    u["kPa"] = 1000 * u["Pa"]
+    u["psi"] = u["lbf"] / u["in"] ** 2
+    u["bar"] = 1e5 * u["Pa"]
+    u["atm"] = 101325 * u["Pa"]
+    u["torr"] = u["atm"] / 760
+    # Conventional mercury column: density 13595.1 kg/m^3 under standard gravity.
+    u["mmHg"] = 13595.1 * kg / m ** 3 * u["g0"] * u["mm"]
+    u["inHg"] = 13595.1 * kg / m ** 3 * u["g0"] * u["in"]
+    # Energy and power
+    u["J"] = u["N"] * m
+    u["kJ"] = 1000 * u["J"]
+    u["MJ"] = 1e6 * u["J"]
+    u["erg"] = u["dyn"] * u["cm"]
+    u["cal(th)"] = 4.184 * u["J"]
+    u["cal(IT)"] = 4.1868 * u["J"]
+    u["kcal(th)"] = 1000 * u["cal(th)"]
+    u["kcal(IT)"] = 1000 * u["cal(IT)"]
+    u["BTU(IT)"] = u["cal(IT)"] * (u["lb"].value / u["g"].value) / 1.8
+    u["W"] = u["J"] / s
+    u["kW"] = 1000 * u["W"]
+    u["Wh"] = u["W"] * u["hr"]
+    u["kWh"] = u["kW"] * u["hr"]
+    u["therm(US)"] = 105480400 * u["J"]
+    u["hp"] = 550 * u["ft"] * u["lbf"] / s
+    u["hp(metric)"] = 75 * u["kgf"] * m / s
+    u["ton(refr)"] = 12000 * u["BTU(IT)"] / u["hr"]
+    # Angle and frequency
+    u["rev"] = 2 * math.pi * rad
+    u["deg"] = u["rev"] / 360
+    u["arcmin"] = u["deg"] / 60
+    u["arcsec"] = u["arcmin"] / 60
+    u["grad"] = u["rev"] / 400
+    u["Hz"] = u["rev"] / s
+    u["kHz"], u["MHz"], u["GHz"] = 1e3 * u["Hz"], 1e6 * u["Hz"], 1e9 * u["Hz"]
+    u["rpm"] = u["rev"] / u["min"]
+    # Electric
+    u["C"] = A * s
+    u["mA"] = A / 1000
+    u["Ah"] = A * u["hr"]
+    u["mAh"] = u["mA"] * u["hr"]
+    u["e"] = 1.602176634e-19 * u["C"]
+    u["eV"] = u["e"].value * u["J"]
+    u["V"] = u["W"] / A
+    u["kV"] = 1000 * u["V"]
+    u["ohm"] = u["V"] / A
+    u["kohm"] = 1000 * u["ohm"]
+    # Data
+    u["B"] = 8 * bit
+    u["kB"], u["MB"], u["GB"], u["TB"] = (10 ** k * u["B"] for k in (3, 6, 9, 12))
+    u["KiB"], u["MiB"], u["GiB"] = (2 ** k * u["B"] for k in (10, 20, 30))
+    u["Mbit"] = 1e6 * bit
+    # Fuel economy
+    u["mpg(US)"] = u["mi"] / u["gal(US)"]
+    u["mpg(UK)"] = u["mi"] / u["gal(UK)"]
+    return u
+
+
+UNITS = build_units()
+
+
+def parse_units(text):
+    """A unit expression such as "ft*lbf/s" or "m/s^2", read left to right."""
+    pieces = re.split(r"([*/])", text)
+    result = None
+    op = "*"
+    for i, piece in enumerate(pieces):
+        if i % 2:
+            op = piece
+            continue
+        match = re.fullmatch(r"(.+?)(?:\^([0-9]+))?", piece)
+        if not match or match.group(1) not in UNITS:
+            raise KeyError(piece)
+        q = UNITS[match.group(1)] ** int(match.group(2) or 1)
+        result = q if result is None else (result * q if op == "*" else result / q)
+    return result
+
+
+def relative(a, b):
+    return abs(a - b) / max(abs(a), abs(b))
+
+
+def repo_root():
+    return os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
+
+
+def check_text(raw, fail):
+    try:
+        text = raw.decode("ascii")
+    except UnicodeDecodeError as err:
+        fail(f"byte {err.start}: not ASCII (0x{raw[err.start]:02x})")
+        text = raw.decode("ascii", errors="replace")
+    # Not splitlines(): it would swallow form feeds and the like as line ends.
+    for n, line in enumerate(text.split("\n"), 1):
+        for ch in line:
+            if (ord(ch) < 32 and ch not in "\t\r") or ord(ch) == 127:
+                fail(f"line {n}: control character 0x{ord(ch):02x}")
+    if not text.startswith("<") or text.startswith("<?") or text.startswith("<!"):
+        fail("the file must begin with the root element: no blank, XML declaration, comment "
+             "or processing instruction before it")
+    if "<![CDATA[" in text:
+        fail("CDATA section: the loader reads only plain text nodes")
+    return text
+
+
+def plain_text(element):
+    """The element's text if it is one plain text node, else None."""
+    if len(element):  # child elements, comments or processing instructions
+        return None
+    return element.text
+
+
+def check_file(path):
+    problems = []
+
+    def fail(message):
+        problems.append(message)
+
+    try:
+        with open(path, "rb") as handle:
+            raw = handle.read()
+    except OSError as err:
+        return [f"cannot read {path}: {err}"], []
+    text = check_text(raw, fail)
+    builder = ET.TreeBuilder(insert_comments=True, insert_pis=True)
+    parser = ET.XMLParser(target=builder)
+    try:
+        parser.feed(text)
+        root = parser.close()
+    except ET.ParseError as err:
+        fail(f"not well-formed XML: {err}")
+        return problems, []
+    if root.tag != "Conversions":
+        fail(f"root element is <{root.tag}>, expected <Conversions>")
+
+    counts = []
+    seen_names = {}
+    rows = {}  # category -> {label: factor or None}
+    fragments = {}  # (category, label) -> fragment text of the first such row
+    for c_index, category in enumerate(root.findall("Category"), 1):
+        names = category.findall("Name")
+        if not names:
+            fail(f"Category {c_index}: no Name")
+            continue
+        name = plain_text(names[0])
+        if not name or not name.strip():
+            fail(f"Category {c_index}: Name is not plain, non-empty text")
+            continue
+        where = f"Category {name!r}"
+        if ";" in name:
+            fail(f"{where}: ';' in the name")
+        if name.lower() in seen_names:
+            fail(f"{where}: name used twice (names compare without case)")
+        seen_names[name.lower()] = name
+        sublists = category.findall("List/SubList")
+        if not sublists:
+            fail(f"{where}: no conversions")
+        counts.append((name, len(sublists)))
+        table = rows.setdefault(name, {})
+        for s_index, sub in enumerate(sublists, 1):
+            label = plain_text(sub)
+            if not label:
+                fail(f"{where}, row {s_index}: label is not plain, non-empty text")
+                continue
+            at = f"{where}, {label!r}"
+            if label in table:
+                fail(f"{at}: label twice; only the first row's fragment would ever be used")
+            for bad in (";", ":"):
+                if bad in label:
+                    fail(f"{at}: {bad!r} in the label")
+            if re.search(r"\s", label):
+                fail(f"{at}: blank in the label")
+            parts = label.split("->")
+            if len(parts) != 2 or not parts[0] or not parts[1]:
+                fail(f"{at}: a label is 'from->to' with one '->'")
+                table[label] = None
+                continue
+            fragment = sub.get("convert")
+            fragments.setdefault((name, label), fragment)
+            if name in FIXED_RULES:
+                if fragment is not None:
+                    fail(f"{at}: convert attribute on a row whose arithmetic is built in")
+                table[label] = None
+                continue
+            if fragment is None:
+                fail(f"{at}: no convert attribute")
+                table[label] = None
+                continue
+            table[label] = parse_fragment(fragment, at, fail)
+
+    for name, expected in FIXED_RULES.items():
+        if name not in rows:
+            continue
+        got = list(rows[name])
+        missing = [x for x in expected if x not in got]
+        extra = [x for x in got if x not in expected]
+        if missing:
+            fail(f"Category {name!r}: missing {missing}")
+        if extra:
+            fail(f"Category {name!r}: labels the built-in rules do not know: {extra}")
+    for name in REQUIRED_CATEGORIES:
+        if name not in rows:
+            fail(f"Category {name!r} is missing")
+    for name, label, fragment in REQUIRED_ROWS:
+        if (name, label) not in fragments:
+            fail(f"Category {name!r}: row {label!r} is missing")
+        elif fragments[(name, label)] != fragment:
+            fail(f"Category {name!r}, {label!r}: fragment {fragments[(name, label)]!r}, "
+                 f"expected {fragment!r}")
+    for key in ROUNDED:
+        if key[1] not in rows.get(key[0], {}):
+            fail(f"ROUNDED lists {key}, which the file does not have")
+
+    for name, table in rows.items():
+        if name in FIXED_RULES:
+            continue
+        for label, factor in table.items():
+            if factor is None:
+                continue
+            check_factor(name, label, factor, table, fail)
+    return problems, counts
+
+
+def parse_fragment(fragment, at, fail):
+    for bad in (";", ":"):
+        if bad in fragment:
+            fail(f"{at}: {bad!r} in the fragment {fragment!r}")
+    match = FRAGMENT_RE.match(fragment)
+    if not match or not NUMBER_RE.match(match.group(2)):
+        fail(f"{at}: fragment {fragment!r} is not '*NUMBER' or '/NUMBER'")
+        return None
+    number = float(match.group(2))
+    if not math.isfinite(number) or number == 0:
+        fail(f"{at}: fragment {fragment!r} is zero or out of range")
+        return None
+    return number if match.group(1) == "*" else 1 / number
+
+
+def check_factor(name, label, factor, table, fail):
+    at = f"Category {name!r}, {label!r}"
+    source, target = label.split("->")
+    reverse = f"{target}->{source}"
+    if reverse not in table:
+        fail(f"{at}: reverse row {reverse!r} is missing")
+    elif table[reverse] is not None and relative(factor * table[reverse], 1.0) > REVERSE_TOLERANCE:
+        fail(f"{at}: factor {factor!r} and that of {reverse!r} ({table[reverse]!r}) "
+             "do not multiply to 1")
+    try:
+        a, b = parse_units(source), parse_units(target)
+    except KeyError as err:
+        fail(f"{at}: unit {err.args[0]!r} is not in UNITS")
+        return
+    if a.dims != b.dims:
+        fail(f"{at}: {a.dimension()} cannot become {b.dimension()}")
+        return
+    expected = a.value / b.value
+    tolerance, _ = ROUNDED.get((name, label), (FACTOR_TOLERANCE, ""))
+    error = relative(factor, expected)
+    if error > tolerance:
+        fail(f"{at}: factor {factor!r}, by definition {expected!r} "
+             f"(relative error {error:.2e}, allowed {tolerance:.0e})")
+
+
+def main(argv):
+    path = os.path.join(repo_root(), "data", "VLSupport", "convert.txt")
+    quiet = False
+    args = list(argv)
+    while args:
+        arg = args.pop(0)
+        if arg == "--file" and args:
+            path = args.pop(0)
+        elif arg == "--quiet":
+            quiet = True
+        else:
+            print(__doc__.strip(), file=sys.stderr)
+            return 2
+    problems, counts = check_file(path)
+    if not quiet and counts:
+        for name, count in counts:
+            print(f"{name:<14} {count:4d}")
+        print(f"{'total':<14} {sum(c for _, c in counts):4d} in {len(counts)} categories")
+    if problems:
+        for message in problems[:MAX_SHOWN]:
+            print(f"{path}: {message}", file=sys.stderr)
+        if len(problems) > MAX_SHOWN:
+            print(f"{path}: ... and {len(problems) - MAX_SHOWN} more", file=sys.stderr)
+        print(f"FAILED: {len(problems)} problem(s)", file=sys.stderr)
+        return 1
+    if not quiet:
+        print("OK")
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))
