@@ -10,6 +10,8 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   xvfb xauth
   python3
+  # packaging: the .deb (dpkg-shlibdeps finds its run-time dependencies) and its desktop files' checks
+  dpkg-dev fakeroot file desktop-file-utils appstream
 )
 
 missing=()

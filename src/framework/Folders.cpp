@@ -25,7 +25,13 @@ bool HasSupportFolder(const fs::path& folder) {
 
 fs::path ShippedDataFolder(const fs::path& executable) {
     std::error_code error;
-    const fs::path bin = fs::weakly_canonical(executable, error).parent_path();
+    // Started through PATH, argv[0] is a bare name; the kernel knows where the program really is.
+    fs::path program = executable;
+    if (!executable.has_parent_path()) {
+        const fs::path self = fs::read_symlink("/proc/self/exe", error);
+        if (!error) program = self;
+    }
+    const fs::path bin = fs::weakly_canonical(program, error).parent_path();
     for (const fs::path& candidate : {bin / ".." / "share" / "velmora", fs::path(VELMORA_SOURCE_DATA_DIR) / "data"})
         if (HasSupportFolder(candidate)) return fs::weakly_canonical(candidate, error);
     return {};

@@ -12,3 +12,4 @@ add_library(velmora_gui STATIC
 target_link_libraries(velmora_gui PUBLIC velmora_core Qt6::Widgets Qt6::Multimedia)
 add_executable(velmora gui/main.cpp)
 target_link_libraries(velmora PRIVATE velmora_gui)
+install(TARGETS velmora RUNTIME DESTINATION bin)
