@@ -366,6 +366,10 @@ public:
     void HelpBranch(const std::string& text, bool blink);
     // The Evaluate help, for "?" (and "Help" by drop).
     void EvaluateHelp(const std::string& text);
+    void PushButton43_Action();
+    void PushButton4_Action();
+    bool StaticText24_MouseDown(int x, int y);
+    void PushButton48_Action();
 
     // Preferences.
     void ReadPreferences();

@@ -1,4 +1,5 @@
 list(APPEND TEST_SOURCES
+  shell/HelpTest.cpp
   shell/PreferencesTest.cpp
   shell/WindowModesTest.cpp
 )
