@@ -1,0 +1,40 @@
+#pragma once
+// Commands that act on a window as a user would, one a line: the console's language, also
+// spoken by the real window when a script or a second start asks. Each passes the event
+// boundary.
+
+#include <functional>
+#include <iosfwd>
+#include <string>
+
+#include "framework/Platform.h"
+#include "window/Window1.h"
+
+class Commands {
+public:
+    Commands(Window1& window, fw::Platform& platform) : window(window), platform(platform) {}
+
+    // Runs one command line; prints what `get` asks for to `out` and faults of the command
+    // itself ("error: ...") to `err`. Returns false after `quit`.
+    bool Execute(const std::string& line, std::ostream& out, std::ostream& err);
+
+    // A user's drop of `text` on the window.
+    void Drop(const std::string& text);
+    // A user's choice of `caption` in the action menu; false if the menu has no such row.
+    bool Choose(const std::string& caption);
+
+    // Holds or releases the shift key, where the desktop can pretend to.
+    std::function<void(bool)> holdShift;
+
+private:
+    bool Get(const std::string& name, std::string& value);
+    void Click(fw::Control& control, const std::string& rest);
+    void Set(fw::Control& control, const std::string& value);
+
+    Window1& window;
+    fw::Platform& platform;
+};
+
+// "\n", "\t" and "\\" escapes of a command line, and the reverse for printed values.
+std::string Unescape(const std::string& text);
+std::string EscapeNewlines(const std::string& text);
