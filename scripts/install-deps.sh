@@ -9,6 +9,8 @@ packages=(
   libpugixml-dev libpcre2-dev
   libgtest-dev libgmock-dev libbenchmark-dev
   xvfb xauth
+  # the end-to-end test: a real drag from a second X client, the X clipboard read back
+  xdotool xclip x11-utils
   python3
   # packaging: the .deb (dpkg-shlibdeps finds its run-time dependencies) and its desktop files' checks
   dpkg-dev fakeroot file desktop-file-utils appstream

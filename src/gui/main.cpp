@@ -1,62 +1,116 @@
-// velmora: the desktop program.
-//   velmora [--home DIR] [--size WxH] [--screenshot FILE] [--page PANEL=N]...
-// --home keeps every file under DIR; --size forces the window to a size after start and
-// --screenshot saves a picture of the window and quits, --page turns a panel to a page (for
-// pictures of the layout).
+// velmora: the desktop program. One copy runs for each home folder; a later start hands its
+// drop or commands to it and exits. See kUsage for the options.
+
+#include <cstdio>
+#include <sstream>
 
 #include <QApplication>
-#include <QStringList>
+#include <QClipboard>
+#include <QFile>
 #include <QTimer>
 
+#include "cli/Commands.h"
 #include "framework/EventBoundary.h"
 #include "framework/Folders.h"
 #include "gui/MenuView.h"
+#include "gui/Options.h"
 #include "gui/QtPlatform.h"
+#include "gui/SingleInstance.h"
 #include "gui/WindowView.h"
 #include "window/Window1.h"
+
+namespace {
+// The text a desktop shortcut means: the selection under X11, else what was copied.
+QString SelectedText() {
+    const QString selection = QGuiApplication::clipboard()->text(QClipboard::Selection);
+    return selection.isEmpty() ? QGuiApplication::clipboard()->text() : selection;
+}
+
+QByteArray RunLines(Commands& commands, const QString& lines) {
+    std::ostringstream out, err;
+    for (const QString& line : lines.split('\n'))
+        if (!commands.Execute(line.toStdString(), out, err)) QTimer::singleShot(0, qApp, &QApplication::quit);
+    return QByteArray::fromStdString(out.str() + err.str());
+}
+
+void Raise(QWidget& view) {
+    view.show();
+    view.raise();
+    view.activateWindow();
+}
+
+// Talks to a running copy; true when one answered and this start is done.
+bool HandOver(const Options& options, const SingleInstance& instance) {
+    InstanceRequest request;
+    if (options.quit) request = {InstanceRequest::Kind::Run, QStringLiteral("quit")};
+    else if (!options.run.isEmpty()) request = {InstanceRequest::Kind::Run, options.run};
+    else if (options.drop)
+        request = {InstanceRequest::Kind::Drop, options.dropSelection ? SelectedText() : options.dropText};
+    QByteArray reply;
+    if (!instance.SendToRunning(request, &reply)) return false;
+    std::fwrite(reply.constData(), 1, static_cast<size_t>(reply.size()), stdout);
+    return true;
+}
+}  // namespace
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Velmora"));
     QApplication::setApplicationVersion(QStringLiteral("3.0.0"));
+    QApplication::setDesktopFileName(QStringLiteral("org.velmora.Velmora"));
     QApplication::setQuitOnLastWindowClosed(true);
 
-    const QStringList args = QApplication::arguments();
-    fw::FolderSet folders = fw::DesktopFolders(argv[0]);
-    QSize forcedSize;
-    QString screenshot;
-    QStringList pages;
-    for (int i = 1; i + 1 < args.size(); ++i) {
-        if (args[i] == QLatin1String("--home")) {
-            const std::filesystem::path resources = folders.resources;
-            folders = fw::HomeFolders(args[i + 1].toStdString());
-            folders.resources = resources;
-        } else if (args[i] == QLatin1String("--size")) {
-            const QStringList parts = args[i + 1].split('x');
-            if (parts.size() == 2) forcedSize = QSize(parts[0].toInt(), parts[1].toInt());
-        } else if (args[i] == QLatin1String("--screenshot")) {
-            screenshot = args[i + 1];
-        } else if (args[i] == QLatin1String("--page")) {
-            pages << args[i + 1];
-        }
+    const Options options = Options::Parse(QApplication::arguments());
+    if (!options.error.isEmpty()) {
+        std::fprintf(stderr, "velmora: %s\n%s", qPrintable(options.error), kUsage);
+        return 2;
+    }
+    SingleInstance instance(options.home);
+    if (!options.Solo() && HandOver(options, instance)) return 0;
+    if (options.quit) return 0;
+    if (!options.run.isEmpty()) {
+        std::fprintf(stderr, "velmora: no running copy to take the commands\n");
+        return 1;
     }
 
+    fw::FolderSet folders = fw::DesktopFolders(argv[0]);
+    if (!options.home.isEmpty()) {
+        const std::filesystem::path resources = folders.resources;
+        folders = fw::HomeFolders(options.home.toStdString());
+        folders.resources = resources;
+    }
     QtPlatform platform(folders);
     Window1 window(platform);
     WindowView view(window, platform);
+    Commands commands(window, platform);
     InstallMenus(view);
     fw::RunEvent(platform, [&] { window.Open(); });
-    if (forcedSize.isValid()) window.SetSize(forcedSize.width(), forcedSize.height());
-    for (const QString& page : pages) {
+    if (options.size.isValid()) window.SetSize(options.size.width(), options.size.height());
+    for (const QString& page : options.pages) {
         auto* panel = dynamic_cast<fw::PanelControl*>(window.Find(page.section('=', 0, 0).toStdString()));
         if (panel) fw::RunEvent(platform, [&] { panel->SetValue(page.section('=', 1).toInt()); });
     }
+    if (!options.commands.isEmpty()) {
+        QFile file(options.commands);
+        if (file.open(QIODevice::ReadOnly)) std::fputs(RunLines(commands, QString::fromUtf8(file.readAll())).constData(), stdout);
+    }
     view.show();
-    if (!screenshot.isEmpty()) {
+
+    if (!options.screenshot.isEmpty()) {
         QTimer::singleShot(600, &view, [&] {
-            view.grab().save(screenshot);
+            view.grab().save(options.screenshot);
             QApplication::quit();
         });
+        return QApplication::exec();
     }
+    instance.Listen([&](const InstanceRequest& request) -> QByteArray {
+        switch (request.kind) {
+        case InstanceRequest::Kind::Show: Raise(view); return {};
+        case InstanceRequest::Kind::Drop: view.DeliverDrop(request.text); return {};
+        case InstanceRequest::Kind::Run: return RunLines(commands, request.text);
+        }
+        return {};
+    });
+    if (options.drop) view.DeliverDrop(options.dropSelection ? SelectedText() : options.dropText);
     return QApplication::exec();
 }

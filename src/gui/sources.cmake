@@ -1,15 +1,17 @@
-find_package(Qt6 REQUIRED COMPONENTS Widgets Multimedia)
+find_package(Qt6 REQUIRED COMPONENTS Widgets Multimedia Network)
 set(CMAKE_AUTOMOC OFF)
 add_library(velmora_gui STATIC
   gui/ButtonBindings.cpp
   gui/ControlBinding.cpp
   gui/ListBindings.cpp
   gui/MenuView.cpp
+  gui/Options.cpp
   gui/QtPlatform.cpp
+  gui/SingleInstance.cpp
   gui/TextBindings.cpp
   gui/WindowView.cpp
 )
-target_link_libraries(velmora_gui PUBLIC velmora_core Qt6::Widgets Qt6::Multimedia)
+target_link_libraries(velmora_gui PUBLIC velmora_console Qt6::Widgets Qt6::Multimedia Qt6::Network)
 add_executable(velmora gui/main.cpp)
 target_link_libraries(velmora PRIVATE velmora_gui)
 install(TARGETS velmora RUNTIME DESTINATION bin)

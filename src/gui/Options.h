@@ -1,0 +1,26 @@
+#pragma once
+// What `velmora` is asked to do on its command line.
+
+#include <QSize>
+#include <QString>
+#include <QStringList>
+
+struct Options {
+    QString home;        // --home DIR: every file under DIR
+    QSize size;          // --size WxH: forced after start
+    QString screenshot;  // --screenshot FILE: save a picture of the window and quit
+    QStringList pages;   // --page PANEL=N
+    QString commands;    // --commands FILE: command lines run after start
+    bool drop = false;   // --drop TEXT or --drop-selection
+    bool dropSelection = false;
+    QString dropText;
+    QString run;         // --run "LINES": commands for the running copy, its answer printed
+    bool quit = false;   // --quit: end the running copy
+    QString error;       // a usage fault, empty when the line was understood
+
+    static Options Parse(const QStringList& arguments);
+    // A start that only talks to a running copy (or takes a picture) opens no window of its own.
+    bool Solo() const { return !screenshot.isEmpty(); }
+};
+
+extern const char* const kUsage;
