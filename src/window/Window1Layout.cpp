@@ -134,13 +134,13 @@ void Window1::LayOutSolveConvertPages() {
     Place(TextField1, p2, 3, 366, 48, 300, 28);
     Place(PushButton44, p2, 3, 680, 46, 100, 30);
     Place(StaticText25, p2, 3, 366, 82, 414, 36);
-    Place(Listbox1, p2, 3, 366, 124, 190, 300);
-    Place(Listbox2, p2, 3, 564, 124, 216, 300);
-    Place(GroupBox7, p2, 3, 366, 432, 414, 52);
-    Place(RadioButton7, p2, 3, 376, 454, 100, 22);
-    Place(RadioButton8, p2, 3, 490, 454, 130, 22);
-    Place(RadioButton9, p2, 3, 630, 454, 140, 22);
-    Place(StaticText26, p2, 3, 366, 492, 414, 64);
+    Place(Listbox1, p2, 3, 366, 124, 190, 286);
+    Place(Listbox2, p2, 3, 564, 124, 216, 286);
+    Place(GroupBox7, p2, 3, 366, 418, 414, 52);
+    Place(RadioButton7, p2, 3, 376, 440, 100, 22);
+    Place(RadioButton8, p2, 3, 490, 440, 130, 22);
+    Place(RadioButton9, p2, 3, 630, 440, 140, 22);
+    Place(StaticText26, p2, 3, 366, 476, 414, 84);
 }
 
 void Window1::LayOutSearchPage() {
