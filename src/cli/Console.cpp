@@ -2,7 +2,21 @@
 
 #include "framework/EventBoundary.h"
 
-Console::Console(fw::FolderSet folders) : platform(std::move(folders)), window(platform), commands(window, platform) {
+Console::Console(fw::FolderSet folders, bool shiftAtLaunch)
+    : platform(std::move(folders)), window(platform), commands(window, platform),
+      intro(platform, [this] { ShowMainWindow(); }) {
     commands.holdShift = [this](bool down) { platform.shift = down; };
-    fw::RunEvent(platform, [this] { window.Open(); });
+    platform.shift = shiftAtLaunch;
+    intro.Open();
+    platform.shift = false;
+    if (!intro.IsClosed()) fw::RunEvent(platform, [this] { intro.PushButton2.Push(); });
+}
+
+// Window1 is built the first time it is shown.
+void Console::ShowMainWindow() {
+    if (!mainOpened_) {
+        mainOpened_ = true;
+        window.Open();
+    }
+    window.Show();
 }

@@ -1,17 +1,19 @@
 #pragma once
-// The program without a screen: Window1 on the recording desktop, driven by commands that act
-// as a user would.
+// The program without a screen: the introduction window, passed as Continue would pass it, then
+// Window1 on the recording desktop, driven by commands that act as a user would.
 
 #include <iosfwd>
 #include <string>
 
 #include "cli/Commands.h"
 #include "framework/RecordingPlatform.h"
+#include "shell/Window2.h"
 #include "window/Window1.h"
 
 class Console {
 public:
-    explicit Console(fw::FolderSet folders);
+    // `shiftAtLaunch` holds the shift key while the introduction window opens.
+    explicit Console(fw::FolderSet folders, bool shiftAtLaunch = false);
 
     bool Execute(const std::string& line, std::ostream& out, std::ostream& err) {
         return commands.Execute(line, out, err);
@@ -22,4 +24,9 @@ public:
     fw::RecordingPlatform platform;
     Window1 window;
     Commands commands;
+    Window2 intro;
+
+private:
+    void ShowMainWindow();
+    bool mainOpened_ = false;
 };

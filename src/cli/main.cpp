@@ -1,6 +1,8 @@
 // velmora-cli: Velmora without a screen.
 //   velmora-cli [--home DIR] [--action CAPTION] [--log] TEXT   drop TEXT, print the clipboard
 //   velmora-cli [--home DIR]                                    read commands from standard input
+// The introduction window is passed as its Continue button would pass it; --shift holds the
+// shift key while it opens.
 
 #include <iostream>
 #include <string>
@@ -14,6 +16,7 @@ int main(int argc, char** argv) {
     std::string text;
     bool haveText = false;
     bool printLog = false;
+    bool shift = false;
     for (int i = 1; i < argc; ++i) {
         const std::string arg = argv[i];
         if (arg == "--home" && i + 1 < argc) {
@@ -24,8 +27,10 @@ int main(int argc, char** argv) {
             action = argv[++i];
         } else if (arg == "--log") {
             printLog = true;
+        } else if (arg == "--shift") {
+            shift = true;
         } else if (arg == "--help" || arg == "-h") {
-            std::cout << "usage: velmora-cli [--home DIR] [--action CAPTION] [--log] [TEXT]\n";
+            std::cout << "usage: velmora-cli [--home DIR] [--shift] [--action CAPTION] [--log] [TEXT]\n";
             return 0;
         } else {
             text = arg;
@@ -33,7 +38,7 @@ int main(int argc, char** argv) {
         }
     }
 
-    Console console(folders);
+    Console console(folders, shift);
     if (!action.empty() && !console.Choose(action)) {
         std::cerr << "error: no action " << action << "\n";
         return 2;

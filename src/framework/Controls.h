@@ -19,6 +19,8 @@ public:
     // Runs Action to its end before returning.
     void Push();
     std::function<void()> Action;
+    // The window's default button, which the Return key pushes.
+    bool Default = false;
 
 private:
     std::string caption_;

@@ -1,7 +1,5 @@
 #include "framework/FolderItem.h"
 
-#include <fstream>
-#include <sstream>
 #include <system_error>
 #include <unistd.h>
 
@@ -37,11 +35,16 @@ bool FolderItem::CreateAsFolder() const {
 TextInputStreamRef FolderItem::OpenAsTextFile() const {
     std::error_code error;
     if (!fs::is_regular_file(path_, error)) return nullptr;
-    std::ifstream in(path_, std::ios::binary);
-    if (!in) return nullptr;
-    std::ostringstream content;
-    content << in.rdbuf();
-    return MakeRef<TextInputStream>(content.str());
+    std::FILE* file = std::fopen(path_.c_str(), "rb");
+    if (!file) return nullptr;
+    // Read in one go at the size the file has now; a file still growing is read to its end.
+    std::string content(static_cast<size_t>(fs::file_size(path_, error)), '\0');
+    if (error) content.clear();
+    content.resize(std::fread(content.data(), 1, content.size(), file));
+    char chunk[4096];
+    for (size_t got; (got = std::fread(chunk, 1, sizeof chunk, file)) > 0;) content.append(chunk, got);
+    std::fclose(file);
+    return MakeRef<TextInputStream>(std::move(content));
 }
 
 TextOutputStreamRef FolderItem::CreateTextFile() const {

@@ -30,6 +30,43 @@ std::string Folded(std::string_view s) {
     return copy;
 }
 
+// Whether folding can change what `needle` matches: only letters and non-ASCII bytes fold.
+bool HasFoldable(std::string_view needle) {
+    for (unsigned char c : needle)
+        if ((c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c >= 0x80) return true;
+    return false;
+}
+
+// Whether folding changes `s` at all; a scan is cheaper than the copy it saves.
+bool Folds(std::string_view s) {
+    for (unsigned char c : s)
+        if ((c >= 'A' && c <= 'Z') || c == 0xC3) return true;
+    return false;
+}
+
+// A text searched with case ignored. It is folded only when the needle holds something that
+// folds: separators and digits match the same places either way, and skipping the copy keeps
+// field and line splitting of long texts cheap.
+class Caseless {
+public:
+    Caseless(std::string_view source, std::string_view needle) : needle_(Folded(needle)) {
+        if (HasFoldable(needle_) && Folds(source)) {
+            folded_ = Folded(source);
+            hay_ = folded_;
+        } else {
+            hay_ = source;
+        }
+    }
+    size_t Find(size_t from) const { return hay_.find(needle_, from); }
+    size_t NeedleSize() const { return needle_.size(); }
+    bool NeedleEmpty() const { return needle_.empty(); }
+
+private:
+    std::string needle_;
+    std::string folded_;
+    std::string_view hay_;
+};
+
 bool IsContinuation(unsigned char c) { return (c & 0xC0) == 0x80; }
 
 // Byte offset of character `index` (0-based), or the size when past the end.
@@ -61,11 +98,6 @@ bool IsWhite(std::string_view s, size_t i, size_t& width) {
 }
 
 // Case-blind search from byte `from`; npos if none.
-size_t FindFolded(const std::string& haystack, const std::string& needle, size_t from) {
-    if (needle.empty()) return from <= haystack.size() ? from : std::string::npos;
-    return haystack.find(needle, from);
-}
-
 std::string TrimmedExponent(int exponent) {
     return std::string(exponent < 0 ? "-" : "+") + std::to_string(exponent < 0 ? -exponent : exponent);
 }
@@ -88,41 +120,42 @@ std::string InBase(std::int64_t value, unsigned base) {
 
 }  // namespace
 
-bool StrEq(std::string_view a, std::string_view b) { return a.size() == b.size() && Folded(a) == Folded(b); }
+bool StrEq(std::string_view a, std::string_view b) {
+    if (a.size() != b.size()) return false;
+    if (a == b) return true;
+    return Folded(a) == Folded(b);
+}
 
 int InStr(std::string_view source, std::string_view find) { return InStr(1, source, find); }
 
 int InStr(int start, std::string_view source, std::string_view find) {
     if (start < 1) start = 1;
-    const std::string hay = Folded(source);
-    const std::string needle = Folded(find);
+    const Caseless hay(source, find);
     const size_t from = ByteOffset(source, start - 1);
-    if (from >= source.size() && !needle.empty()) return 0;
-    const size_t at = FindFolded(hay, needle, from);
+    if (from >= source.size() && !hay.NeedleEmpty()) return 0;
+    const size_t at = hay.NeedleEmpty() ? from : hay.Find(from);
     return at == std::string::npos ? 0 : CharCount(source, at) + 1;
 }
 
 std::string NthField(std::string_view source, std::string_view separator, int n) {
     if (n < 1) return {};
     if (separator.empty()) return n == 1 ? std::string(source) : std::string();
-    const std::string hay = Folded(source);
-    const std::string sep = Folded(separator);
+    const Caseless hay(source, separator);
     size_t begin = 0;
     for (int field = 1; field < n; ++field) {
-        const size_t at = hay.find(sep, begin);
+        const size_t at = hay.Find(begin);
         if (at == std::string::npos) return {};
-        begin = at + sep.size();
+        begin = at + hay.NeedleSize();
     }
-    const size_t end = hay.find(sep, begin);
+    const size_t end = hay.Find(begin);
     return std::string(source.substr(begin, end == std::string::npos ? std::string::npos : end - begin));
 }
 
 int CountFields(std::string_view source, std::string_view separator) {
     if (separator.empty()) return 1;
-    const std::string hay = Folded(source);
-    const std::string sep = Folded(separator);
+    const Caseless hay(source, separator);
     int count = 1;
-    for (size_t at = hay.find(sep); at != std::string::npos; at = hay.find(sep, at + sep.size())) ++count;
+    for (size_t at = hay.Find(0); at != std::string::npos; at = hay.Find(at + hay.NeedleSize())) ++count;
     return count;
 }
 
@@ -133,12 +166,11 @@ std::vector<std::string> Split(std::string_view source, std::string_view separat
         fields.emplace_back(source);
         return fields;
     }
-    const std::string hay = Folded(source);
-    const std::string sep = Folded(separator);
+    const Caseless hay(source, separator);
     size_t begin = 0;
-    for (size_t at = hay.find(sep); at != std::string::npos; at = hay.find(sep, begin)) {
+    for (size_t at = hay.Find(0); at != std::string::npos; at = hay.Find(begin)) {
         fields.emplace_back(source.substr(begin, at - begin));
-        begin = at + sep.size();
+        begin = at + hay.NeedleSize();
     }
     fields.emplace_back(source.substr(begin));
     return fields;
@@ -146,17 +178,16 @@ std::vector<std::string> Split(std::string_view source, std::string_view separat
 
 std::string ReplaceAll(std::string_view source, std::string_view oldText, std::string_view newText) {
     if (oldText.empty() || source.size() < oldText.size()) return std::string(source);
-    const std::string hay = Folded(source);
-    const std::string needle = Folded(oldText);
-    size_t at = hay.find(needle);
+    const Caseless hay(source, oldText);
+    size_t at = hay.Find(0);
     if (at == std::string::npos) return std::string(source);
     std::string result;
     result.reserve(source.size());
     size_t begin = 0;
-    for (; at != std::string::npos; at = hay.find(needle, begin)) {
+    for (; at != std::string::npos; at = hay.Find(begin)) {
         result.append(source.substr(begin, at - begin));
         result.append(newText);
-        begin = at + needle.size();
+        begin = at + hay.NeedleSize();
     }
     result.append(source.substr(begin));
     return result;

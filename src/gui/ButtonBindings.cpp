@@ -22,6 +22,7 @@ public:
     PushButtonBinding(fw::PushButton& model, QWidget* parent, QPoint origin, QtPlatform& platform)
         : ControlBinding(model, new QPushButton(parent), origin, platform), model_(model) {
         button()->setFocusPolicy(Qt::TabFocus);
+        button()->setDefault(model.Default);
         connect(button(), &QPushButton::clicked, this, [this] { Deliver([this] { model_.Push(); }); });
     }
 
@@ -147,7 +148,8 @@ std::unique_ptr<ControlBinding> MakeButtonBinding(fw::Control& control, QWidget*
         return std::make_unique<LabelBinding>(static_cast<fw::Label&>(control), new QGroupBox(parent), origin, platform);
     case fw::Kind::Separator: {
         auto* line = new QFrame(parent);
-        line->setFrameShape(QFrame::VLine);
+        const fw::Rect& bounds = control.Bounds();
+        line->setFrameShape(bounds.Width > bounds.Height ? QFrame::HLine : QFrame::VLine);
         line->setFrameShadow(QFrame::Sunken);
         return std::make_unique<LabelBinding>(static_cast<fw::Label&>(control), line, origin, platform);
     }

@@ -2,7 +2,8 @@
 
 const char* const kUsage =
     "usage: velmora [--home DIR] [--drop TEXT | --drop-selection] [--run COMMANDS] [--quit]\n"
-    "               [--commands FILE] [--size WxH] [--page PANEL=N]... [--screenshot FILE]\n";
+    "               [--commands FILE] [--size WxH] [--page PANEL=N]... [--screenshot FILE]\n"
+    "               [--intro-click X,Y]... [--intro-screenshot FILE]\n";
 
 Options Options::Parse(const QStringList& arguments) {
     Options options;
@@ -23,6 +24,11 @@ Options Options::Parse(const QStringList& arguments) {
             if (parts.size() == 2) options.size = QSize(parts[0].toInt(), parts[1].toInt());
         } else if (arg == QLatin1String("--screenshot")) {
             options.screenshot = value();
+        } else if (arg == QLatin1String("--intro-screenshot")) {
+            options.introScreenshot = value();
+        } else if (arg == QLatin1String("--intro-click")) {
+            const QStringList parts = value().split(',');
+            if (parts.size() == 2) options.introClicks << QPoint(parts[0].toInt(), parts[1].toInt());
         } else if (arg == QLatin1String("--page")) {
             options.pages << value();
         } else if (arg == QLatin1String("--commands")) {

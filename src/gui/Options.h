@@ -1,6 +1,8 @@
 #pragma once
 // What `velmora` is asked to do on its command line.
 
+#include <QList>
+#include <QPoint>
 #include <QSize>
 #include <QString>
 #include <QStringList>
@@ -8,7 +10,9 @@
 struct Options {
     QString home;        // --home DIR: every file under DIR
     QSize size;          // --size WxH: forced after start
-    QString screenshot;  // --screenshot FILE: save a picture of the window and quit
+    QString screenshot;  // --screenshot FILE: save a picture of the main window and quit
+    QString introScreenshot;  // --intro-screenshot FILE: the same of the introduction window
+    QList<QPoint> introClicks;  // --intro-click X,Y: clicks on its picture before that
     QStringList pages;   // --page PANEL=N
     QString commands;    // --commands FILE: command lines run after start
     bool drop = false;   // --drop TEXT or --drop-selection
@@ -20,7 +24,7 @@ struct Options {
 
     static Options Parse(const QStringList& arguments);
     // A start that only talks to a running copy (or takes a picture) opens no window of its own.
-    bool Solo() const { return !screenshot.isEmpty(); }
+    bool Solo() const { return !screenshot.isEmpty() || !introScreenshot.isEmpty(); }
 };
 
 extern const char* const kUsage;

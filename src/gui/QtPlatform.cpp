@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
+#include <QFileInfo>
 #include <QLocale>
 #include <QMessageBox>
 #include <QSoundEffect>
@@ -65,5 +66,9 @@ std::string QtPlatform::ShortTime(std::time_t moment) {
 std::string QtPlatform::SystemVersion() { return QSysInfo::prettyProductName().toStdString(); }
 
 QString QtPlatform::PicturePath(const std::string& name) const {
-    return QDir(QString::fromStdString(folders_.resources.string())).filePath(QString::fromStdString(name) + ".gif");
+    // The targets are GIF pictures, the pictures of the whole window JPEG photographs.
+    const QDir folder(QString::fromStdString(folders_.resources.string()));
+    const QString gif = folder.filePath(QString::fromStdString(name) + ".gif");
+    const QString jpg = folder.filePath(QString::fromStdString(name) + ".jpg");
+    return QFileInfo::exists(gif) || !QFileInfo::exists(jpg) ? gif : jpg;
 }

@@ -28,7 +28,7 @@ public:
     std::string SystemVersion() override;
 
     const fw::FolderSet& Folders() const { return folders_; }
-    // Picture resources by their name in the code ("target" is target.gif).
+    // Picture resources by their name in the code: "target" is target.gif, "fullwindow1" fullwindow1.jpg.
     QString PicturePath(const std::string& name) const;
 
 private:

@@ -17,6 +17,7 @@
 #include "gui/QtPlatform.h"
 #include "gui/SingleInstance.h"
 #include "gui/WindowView.h"
+#include "shell/Window2.h"
 #include "window/Window1.h"
 
 namespace {
@@ -31,6 +32,13 @@ QByteArray RunLines(Commands& commands, const QString& lines) {
     for (const QString& line : lines.split('\n'))
         if (!commands.Execute(line.toStdString(), out, err)) QTimer::singleShot(0, qApp, &QApplication::quit);
     return QByteArray::fromStdString(out.str() + err.str());
+}
+
+void Screenshot(QWidget& view, const QString& file) {
+    QTimer::singleShot(600, &view, [&view, file] {
+        view.grab().save(file);
+        QApplication::quit();
+    });
 }
 
 void Raise(QWidget& view) {
@@ -84,33 +92,61 @@ int main(int argc, char** argv) {
     WindowView view(window, platform);
     Commands commands(window, platform);
     InstallMenus(view);
-    fw::RunEvent(platform, [&] { window.Open(); });
-    if (options.size.isValid()) window.SetSize(options.size.width(), options.size.height());
-    for (const QString& page : options.pages) {
-        auto* panel = dynamic_cast<fw::PanelControl*>(window.Find(page.section('=', 0, 0).toStdString()));
-        if (panel) fw::RunEvent(platform, [&] { panel->SetValue(page.section('=', 1).toInt()); });
-    }
-    if (!options.commands.isEmpty()) {
-        QFile file(options.commands);
-        if (file.open(QIODevice::ReadOnly)) std::fputs(RunLines(commands, QString::fromUtf8(file.readAll())).constData(), stdout);
-    }
-    view.show();
+    // The main window opens the first time it is shown, which the introduction window does when
+    // it hands over.
+    bool opened = false;
+    auto showMain = [&] {
+        if (!opened) {
+            opened = true;
+            fw::RunEvent(platform, [&] { window.Open(); });
+            if (options.size.isValid()) window.SetSize(options.size.width(), options.size.height());
+            for (const QString& page : options.pages) {
+                auto* panel = dynamic_cast<fw::PanelControl*>(window.Find(page.section('=', 0, 0).toStdString()));
+                if (panel) fw::RunEvent(platform, [&] { panel->SetValue(page.section('=', 1).toInt()); });
+            }
+            if (!options.commands.isEmpty()) {
+                QFile file(options.commands);
+                if (file.open(QIODevice::ReadOnly))
+                    std::fputs(RunLines(commands, QString::fromUtf8(file.readAll())).constData(), stdout);
+            }
+        }
+        window.Show();
+    };
+    Window2 intro(platform, showMain);
+    WindowView introView(intro, platform);
+    // A request for the main window's work passes the introduction as Continue would.
+    auto passIntro = [&] {
+        if (!intro.IsClosed()) fw::RunEvent(platform, [&] { intro.PushButton2.Push(); });
+    };
 
+    // A picture of the main window skips the introduction.
     if (!options.screenshot.isEmpty()) {
-        QTimer::singleShot(600, &view, [&] {
-            view.grab().save(options.screenshot);
-            QApplication::quit();
-        });
+        showMain();
+        Screenshot(view, options.screenshot);
+        return QApplication::exec();
+    }
+    intro.Open();
+    if (!options.introScreenshot.isEmpty()) {
+        if (intro.IsClosed()) {
+            std::fprintf(stderr, "velmora: the introduction window has handed over; no picture of it\n");
+            return 1;
+        }
+        for (const QPoint& click : options.introClicks)
+            fw::RunEvent(platform, [&] { intro.ImageWell1.FireMouseDown(click.x(), click.y()); });
+        Screenshot(introView, options.introScreenshot);
         return QApplication::exec();
     }
     instance.Listen([&](const InstanceRequest& request) -> QByteArray {
         switch (request.kind) {
-        case InstanceRequest::Kind::Show: Raise(view); return {};
-        case InstanceRequest::Kind::Drop: view.DeliverDrop(request.text); return {};
-        case InstanceRequest::Kind::Run: return RunLines(commands, request.text);
+        case InstanceRequest::Kind::Show: Raise(intro.IsClosed() ? static_cast<QWidget&>(view) : introView); return {};
+        case InstanceRequest::Kind::Drop: passIntro(); view.DeliverDrop(request.text); return {};
+        case InstanceRequest::Kind::Run: passIntro(); return RunLines(commands, request.text);
         }
         return {};
     });
-    if (options.drop) view.DeliverDrop(options.dropSelection ? SelectedText() : options.dropText);
+    if (options.drop) {
+        passIntro();
+        view.DeliverDrop(options.dropSelection ? SelectedText() : options.dropText);
+    }
     return QApplication::exec();
 }

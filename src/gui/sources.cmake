@@ -3,6 +3,7 @@ set(CMAKE_AUTOMOC OFF)
 add_library(velmora_gui STATIC
   gui/ButtonBindings.cpp
   gui/ControlBinding.cpp
+  gui/FullWindowPicture.cpp
   gui/ListBindings.cpp
   gui/MenuView.cpp
   gui/Options.cpp
@@ -15,3 +16,6 @@ target_link_libraries(velmora_gui PUBLIC velmora_console Qt6::Widgets Qt6::Multi
 add_executable(velmora gui/main.cpp)
 target_link_libraries(velmora PRIVATE velmora_gui)
 install(TARGETS velmora RUNTIME DESTINATION bin)
+# Makes the introduction's pictures of the main window (tools/make_fullwindow.sh); not installed.
+add_executable(velmora-fullwindow gui/FullWindowTool.cpp)
+target_link_libraries(velmora-fullwindow PRIVATE velmora_gui)

@@ -1,0 +1,192 @@
+"""The measurements of bench/peers.sh: one-shot programs, the in-process drop, the real window.
+
+    python3 bench/peers.py BUILD_DIR RUNS
+"""
+
+import hashlib
+import os
+import shutil
+import socket
+import statistics
+import struct
+import subprocess
+import sys
+import tempfile
+import time
+
+BUILD, RUNS = sys.argv[1], int(sys.argv[2])
+ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
+CLI = os.path.join(BUILD, "src", "velmora-cli")
+GUI = os.path.join(BUILD, "src", "velmora")
+
+
+def home_with_data():
+    home = tempfile.mkdtemp(prefix="velmora-peers-")
+    os.makedirs(os.path.join(home, "data"))
+    os.makedirs(os.path.join(home, "prefs"))
+    shutil.copytree(os.path.join(ROOT, "data", "VLSupport"), os.path.join(home, "data", "VLSupport"))
+    open(os.path.join(home, "prefs", "VL3Instr.txt"), "w").close()
+    return home
+
+
+def run_once(argv, stdin):
+    """Wall time in ms of one run, and what it printed."""
+    start = time.perf_counter()
+    child = subprocess.Popen(argv, stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+    out, _ = child.communicate(stdin.encode() if stdin else None)
+    elapsed = (time.perf_counter() - start) * 1000
+    return elapsed, out.decode(errors="replace").strip()
+
+
+def peak_mb(argv, stdin):
+    """Peak resident memory of one run, from the kernel's accounting of the child."""
+    r, w = os.pipe()
+    pid = os.fork()
+    if pid == 0:
+        os.dup2(r, 0)
+        devnull = os.open(os.devnull, os.O_WRONLY)
+        os.dup2(devnull, 1)
+        os.dup2(devnull, 2)
+        os.close(w)
+        os.execv(argv[0], argv)
+    os.close(r)
+    os.write(w, (stdin or "").encode())
+    os.close(w)
+    _, _, usage = os.wait4(pid, 0)
+    return usage.ru_maxrss / 1024
+
+
+def measure(name, argv, stdin=None):
+    times = []
+    answer = ""
+    for _ in range(RUNS):
+        elapsed, answer = run_once(argv, stdin)
+        times.append(elapsed)
+    return name, statistics.median(times), peak_mb(argv, stdin), answer.splitlines()[-1] if answer else ""
+
+
+def table(title, rows, reference):
+    print(f"\n{title}\n")
+    print("| Program | Median wall time (ms) | Peak memory (MB) | Time vs Velmora | Answer |")
+    print("|---|---|---|---|---|")
+    base = rows[reference][1]
+    for name, median, peak, answer in rows:
+        print(f"| {name} | {median:.2f} | {peak:.1f} | {median / base:.1f}x | `{answer}` |")
+
+
+def one_shots():
+    home = home_with_data()
+    convert = ("set CheckBox2 true\nchoose Convert\nset PopupMenu2 14\nset popconvert 0\n"
+               "drop 2 hp\nget clipboard\n")
+    units = shutil.which("units")
+    qalc = shutil.which("qalc")
+    rows = [measure("velmora-cli", [CLI, "--home", home], convert)]
+    if units:
+        rows.append(measure("units", [units, "-t", "2 hp", "W"]))
+    if qalc:
+        rows.append(measure("qalc", [qalc, "-t", "2 hp to W"]))
+    table(f"One-shot conversion, 2 hp to watts ({RUNS} runs each)", rows, 0)
+    rows = [measure("velmora-cli", [CLI, "--home", home, "2*sin(30)"])]
+    if units:
+        rows.append(measure("units", [units, "-t", "2*sin(30 deg)"]))
+    if qalc:
+        rows.append(measure("qalc", [qalc, "-t", "2*sin(30 deg)"]))
+    table(f"One-shot calculation, 2*sin(30) in degrees ({RUNS} runs each)", rows, 0)
+    shutil.rmtree(home)
+
+
+def in_process():
+    out = subprocess.run([os.path.join(BUILD, "bench", "velmora_bench"),
+                          "--benchmark_filter=DropToClipboard/sine|Muparser",
+                          "--benchmark_repetitions=5", "--benchmark_report_aggregates_only=true"],
+                         capture_output=True, text=True, check=True).stdout
+    print("\nIn process, median of 5 repetitions\n")
+    print("| Benchmark | Median time |")
+    print("|---|---|")
+    for line in out.splitlines():
+        if "_median" in line:
+            parts = line.split()
+            print(f"| {parts[0].replace('_median', '')} | {parts[1]} {parts[2]} |")
+
+
+def server_name(home):
+    return "velmora-%d-%s" % (os.getuid(), hashlib.sha1(home.encode()).hexdigest()[:12])
+
+
+def request(home, kind, text):
+    payload = (kind + "\n" + text).encode()
+    path = os.path.join(tempfile.gettempdir(), server_name(home))
+    with socket.socket(socket.AF_UNIX) as s:
+        s.connect(path)
+        s.sendall(struct.pack(">I", len(payload)) + payload)
+        data = b""
+        while len(data) < 4 or len(data) < 4 + struct.unpack(">I", data[:4])[0]:
+            chunk = s.recv(1 << 16)
+            if not chunk:
+                break
+            data += chunk
+        return data[4:]
+
+
+def rss_mb(pid):
+    with open(f"/proc/{pid}/status") as status:
+        for line in status:
+            if line.startswith("VmRSS:"):
+                return int(line.split()[1]) / 1024
+    return 0.0
+
+
+def real_window():
+    env = dict(os.environ, QT_QPA_PLATFORM=os.environ.get("QT_QPA_PLATFORM", "offscreen"))
+    starts = []
+    for _ in range(max(5, RUNS // 3)):
+        home = home_with_data()
+        path = os.path.join(tempfile.gettempdir(), server_name(home))
+        start = time.perf_counter()
+        child = subprocess.Popen([GUI, "--home", home], env=env, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        while True:
+            try:
+                request(home, "run", "get size")
+                break
+            except OSError:
+                time.sleep(0.001)
+        starts.append((time.perf_counter() - start) * 1000)
+        request(home, "run", "quit")
+        child.wait()
+        shutil.rmtree(home)
+
+    home = home_with_data()
+    child = subprocess.Popen([GUI, "--home", home], env=env, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    while True:
+        try:
+            request(home, "run", "get size")
+            break
+        except OSError:
+            time.sleep(0.005)
+    time.sleep(0.5)
+    rss_start = rss_mb(child.pid)
+    log_before = len(request(home, "run", "get log"))
+    drops = 100000
+    started = time.perf_counter()
+    for _ in range(drops // 1000):
+        request(home, "run", "\n".join(["drop 2*sin(30)"] * 1000))
+    seconds = time.perf_counter() - started
+    rss_after = rss_mb(child.pid)
+    log_after = len(request(home, "run", "get log"))
+    request(home, "run", "quit")
+    child.wait()
+    shutil.rmtree(home)
+
+    print(f"\nThe real window ({env['QT_QPA_PLATFORM']} platform)\n")
+    print("| Measure | Figure |")
+    print("|---|---|")
+    print(f"| Start to accepting drops, median of {len(starts)} | {statistics.median(starts):.0f} ms |")
+    print(f"| Resident memory after start | {rss_start:.1f} MB |")
+    print(f"| {drops} drops of 2*sin(30) | {seconds:.1f} s, {seconds / drops * 1e6:.0f} us each |")
+    print(f"| Memory growth over those drops | {rss_after - rss_start:.1f} MB |")
+    print(f"| Log text added by them | {(log_after - log_before) / 1048576:.1f} MB |")
+
+
+one_shots()
+in_process()
+real_window()

@@ -1,0 +1,64 @@
+// velmora-fullwindow OUTDIR: renders the expanded main window and writes the introduction's two
+// pictures of it, fullwindow2.jpg (the target at rest, shown first) and fullwindow1.jpg (the
+// target lit). Run it on Qt's offscreen platform; tools/make_fullwindow.sh does.
+
+#include <cstdio>
+
+#include <QApplication>
+#include <QDir>
+#include <QTemporaryDir>
+
+#include "framework/EventBoundary.h"
+#include "framework/Folders.h"
+#include "gui/FullWindowPicture.h"
+#include "gui/QtPlatform.h"
+#include "gui/WindowView.h"
+#include "window/Window1.h"
+
+namespace {
+// Messages are written out rather than shown: nobody is there to close a box.
+struct ToolPlatform : QtPlatform {
+    using QtPlatform::QtPlatform;
+    void MsgBox(const std::string& message) override {
+        std::fprintf(stderr, "velmora-fullwindow: %s\n", message.c_str());
+    }
+};
+
+QImage Render(WindowView& view) {
+    QApplication::processEvents();
+    return view.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    if (argc != 2) {
+        std::fprintf(stderr, "usage: velmora-fullwindow OUTDIR\n");
+        return 2;
+    }
+    const QDir out(QString::fromLocal8Bit(argv[1]));
+    QTemporaryDir home;
+    // The user's own preferences and formulas stay out of the picture; the shipped data goes in.
+    fw::FolderSet folders = fw::HomeFolders(home.path().toStdString());
+    folders.applicationData = fw::ShippedDataFolder(argv[0]);
+    folders.resources = std::filesystem::path(VELMORA_SOURCE_DATA_DIR) / "resources";
+
+    ToolPlatform platform(folders);
+    Window1 window(platform);
+    WindowView view(window, platform);
+    fw::RunEvent(platform, [&] { window.Open(); });
+    fw::RunEvent(platform, [&] { StageForPicture(window); });
+    view.show();
+
+    const std::vector<PicturePiece> pieces =
+        PictureLayout(TabRects(view, "TabPanel1"), TabRects(view, "TabPanel2"));
+    const QString title = QString::fromStdString(window.Title());
+    const QImage atRest = ComposePicture(Render(view), pieces, title);
+    window.ImageWell1.SetImage("target2");
+    const QImage lit = ComposePicture(Render(view), pieces, title);
+
+    bool saved = atRest.save(out.filePath(QStringLiteral("fullwindow2.jpg")), "JPG", 92);
+    saved = lit.save(out.filePath(QStringLiteral("fullwindow1.jpg")), "JPG", 92) && saved;
+    if (!saved) std::fprintf(stderr, "velmora-fullwindow: cannot write the pictures to %s\n", argv[1]);
+    return saved ? 0 : 1;
+}
