@@ -5,6 +5,7 @@
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTextCursor>
+#include <QTextDocument>
 
 #include "framework/Controls.h"
 #include "gui/Bindings.h"
@@ -87,11 +88,16 @@ private:
     QLineEdit* edit() const { return static_cast<QLineEdit*>(Widget()); }
 };
 
+// Lines a growing log keeps on screen: a document line costs far more memory than its text.
+constexpr int kShownLogLines = 2000;
+
 class TextAreaBinding : public TextBinding {
 public:
     TextAreaBinding(fw::TextControl& model, QWidget* parent, QPoint origin, QtPlatform& platform)
         : TextBinding(model, new QPlainTextEdit(parent), origin, platform) {
         connect(edit(), &QPlainTextEdit::textChanged, this, [this] {
+            // Reading the whole document back costs as much as the log is long: only for a user's edit.
+            if (Updating()) return;
             const QTextCursor cursor = edit()->textCursor();
             UserEdited(edit()->toPlainText(), cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart());
         });
@@ -110,10 +116,17 @@ protected:
             break;
         }
         case fw::Property::TextAppended: {
-            // The log grows by a line per event: append at the end, never rebuild the document.
-            QTextCursor end(edit()->document());
+            // The log grows by a line per event: append at the end, never rebuild the document,
+            // and keep the appends out of the undo history, which would otherwise hold them all.
+            // The view shows the latest lines only; the whole log stays in the model and is saved from there.
+            if (edit()->maximumBlockCount() == 0) edit()->setMaximumBlockCount(kShownLogLines);
+            QTextDocument* document = edit()->document();
+            const bool undo = document->isUndoRedoEnabled();
+            document->setUndoRedoEnabled(false);
+            QTextCursor end(document);
             end.movePosition(QTextCursor::End);
             end.insertText(QString::fromUtf8(model_.LastAppended().data(), static_cast<int>(model_.LastAppended().size())));
+            document->setUndoRedoEnabled(undo);
             edit()->verticalScrollBar()->setValue(edit()->verticalScrollBar()->maximum());
             break;
         }
