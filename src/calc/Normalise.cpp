@@ -35,11 +35,13 @@ std::string Window1::FrontRewrite(std::string text, bool purge) {
 }
 
 std::string Window1::PurgePretty(const std::string& text) {
-    std::string purged = ReplaceAll(text, UTF8Chr(8212), "-");
-    purged = ReplaceAll(purged, UTF8Chr(197), "x");
+    static const std::string emDash = UTF8Chr(8212), ringedA = UTF8Chr(197), enDash = UTF8Chr(8211),
+                             timesSign = UTF8Chr(215);
+    std::string purged = ReplaceAll(text, emDash, "-");
+    purged = ReplaceAll(purged, ringedA, "x");
     purged = ReplaceAll(purged, "~", "");
-    purged = ReplaceAll(purged, UTF8Chr(8211), "-");
-    purged = ReplaceAll(purged, UTF8Chr(215), "x");
+    purged = ReplaceAll(purged, enDash, "-");
+    purged = ReplaceAll(purged, timesSign, "x");
     if (purged != text) LogLine("Unprettfied: " + purged);
     return purged;
 }

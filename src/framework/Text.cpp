@@ -1,5 +1,7 @@
 #include "framework/Text.h"
 
+#include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -11,15 +13,20 @@ namespace {
 
 // Folding keeps the byte length: ASCII letters, and Latin-1 capitals (0xC3 0x80-0x9E but the
 // multiplication sign) to their small letters, so folded copies line up byte for byte.
+unsigned char FoldAscii(unsigned char c) { return c >= 'A' && c <= 'Z' ? static_cast<unsigned char>(c + 32) : c; }
+
+// The second byte of a two-byte character that begins with 0xC3.
+unsigned char FoldLatin1(unsigned char c) {
+    return c >= 0x80 && c <= 0x9E && c != 0x97 ? static_cast<unsigned char>(c + 32) : c;
+}
+
 void FoldInPlace(std::string& s) {
     for (size_t i = 0; i < s.size(); ++i) {
-        unsigned char c = static_cast<unsigned char>(s[i]);
-        if (c >= 'A' && c <= 'Z') {
-            s[i] = static_cast<char>(c + 32);
-        } else if (c == 0xC3 && i + 1 < s.size()) {
-            unsigned char next = static_cast<unsigned char>(s[i + 1]);
-            if (next >= 0x80 && next <= 0x9E && next != 0x97) s[i + 1] = static_cast<char>(next + 32);
+        const unsigned char c = static_cast<unsigned char>(s[i]);
+        s[i] = static_cast<char>(FoldAscii(c));
+        if (c == 0xC3 && i + 1 < s.size()) {
             ++i;
+            s[i] = static_cast<char>(FoldLatin1(static_cast<unsigned char>(s[i])));
         }
     }
 }
@@ -44,12 +51,30 @@ bool Folds(std::string_view s) {
     return false;
 }
 
+// A quick no for the common case of a rewrite that does not apply: the needle's first byte, in
+// either case, is nowhere in the text.
+bool MayContain(std::string_view text, std::string_view needle) {
+    const unsigned char first = static_cast<unsigned char>(needle.front());
+    // A lead byte never folds: only the byte after 0xC3 does.
+    if (first >= 0xC0) return text.find(needle.front()) != std::string_view::npos;
+    if (first >= 0x80) return true;
+    const char lower = static_cast<char>(FoldAscii(first));
+    const char upper = lower >= 'a' && lower <= 'z' ? static_cast<char>(lower - 32) : lower;
+    return text.find(lower) != std::string_view::npos || (upper != lower && text.find(upper) != std::string_view::npos);
+}
+
 // A text searched with case ignored. It is folded only when the needle holds something that
 // folds: separators and digits match the same places either way, and skipping the copy keeps
 // field and line splitting of long texts cheap.
 class Caseless {
 public:
-    Caseless(std::string_view source, std::string_view needle) : needle_(Folded(needle)) {
+    Caseless(std::string_view source, std::string_view needle) {
+        if (Folds(needle)) {
+            foldedNeedle_ = Folded(needle);
+            needle_ = foldedNeedle_;
+        } else {
+            needle_ = needle;
+        }
         if (HasFoldable(needle_) && Folds(source)) {
             folded_ = Folded(source);
             hay_ = folded_;
@@ -62,8 +87,9 @@ public:
     bool NeedleEmpty() const { return needle_.empty(); }
 
 private:
-    std::string needle_;
+    std::string foldedNeedle_;
     std::string folded_;
+    std::string_view needle_;
     std::string_view hay_;
 };
 
@@ -123,7 +149,16 @@ std::string InBase(std::int64_t value, unsigned base) {
 bool StrEq(std::string_view a, std::string_view b) {
     if (a.size() != b.size()) return false;
     if (a == b) return true;
-    return Folded(a) == Folded(b);
+    // Folds both in step, as FoldInPlace would, without copying either.
+    for (size_t i = 0; i < a.size(); ++i) {
+        const unsigned char x = FoldAscii(static_cast<unsigned char>(a[i]));
+        if (x != FoldAscii(static_cast<unsigned char>(b[i]))) return false;
+        if (x == 0xC3 && i + 1 < a.size()) {
+            ++i;
+            if (FoldLatin1(static_cast<unsigned char>(a[i])) != FoldLatin1(static_cast<unsigned char>(b[i]))) return false;
+        }
+    }
+    return true;
 }
 
 int InStr(std::string_view source, std::string_view find) { return InStr(1, source, find); }
@@ -177,7 +212,7 @@ std::vector<std::string> Split(std::string_view source, std::string_view separat
 }
 
 std::string ReplaceAll(std::string_view source, std::string_view oldText, std::string_view newText) {
-    if (oldText.empty() || source.size() < oldText.size()) return std::string(source);
+    if (oldText.empty() || source.size() < oldText.size() || !MayContain(source, oldText)) return std::string(source);
     const Caseless hay(source, oldText);
     size_t at = hay.Find(0);
     if (at == std::string::npos) return std::string(source);
@@ -289,13 +324,14 @@ double Val(std::string_view s) {
 std::string Str(double value) {
     if (!std::isfinite(value)) return NonFinite(value);
     if (value == 0) return "0";
-    char text[64];
-    std::snprintf(text, sizeof text, "%.6e", value);
-    const char* e = std::strchr(text, 'e');
+    // to_chars formats as printf does, without its locale and stream machinery.
+    char text[400];
+    char* end = std::to_chars(text, text + sizeof text, value, std::chars_format::scientific, 6).ptr;
+    const char* e = std::find(text, end, 'e');
     const int exponent = std::atoi(e + 1);
     if (exponent < -5 || exponent >= 7) return std::string(text, static_cast<size_t>(e - text)) + "e" + TrimmedExponent(exponent);
-    std::snprintf(text, sizeof text, "%.*f", 6 - exponent, value);
-    std::string fixed = text;
+    end = std::to_chars(text, text + sizeof text, value, std::chars_format::fixed, 6 - exponent).ptr;
+    std::string fixed(text, end);
     if (fixed.find('.') != std::string::npos) {
         while (fixed.back() == '0') fixed.pop_back();
         if (fixed.back() == '.') fixed.pop_back();
