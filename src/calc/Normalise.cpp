@@ -28,8 +28,8 @@ std::string Window1::fact(std::int32_t n) {
 }
 
 std::string Window1::FrontRewrite(std::string text, bool purge) {
-    text = ReplaceAll(text, " ", "");
-    text = ReplaceAll(text, ",", "");
+    text = ReplaceAll(std::move(text), " ", "");
+    text = ReplaceAll(std::move(text), ",", "");
     if (purge) text = PurgePretty(text);
     return ReplaceAll(text, "x10", "e");
 }
@@ -38,10 +38,10 @@ std::string Window1::PurgePretty(const std::string& text) {
     static const std::string emDash = UTF8Chr(8212), ringedA = UTF8Chr(197), enDash = UTF8Chr(8211),
                              timesSign = UTF8Chr(215);
     std::string purged = ReplaceAll(text, emDash, "-");
-    purged = ReplaceAll(purged, ringedA, "x");
-    purged = ReplaceAll(purged, "~", "");
-    purged = ReplaceAll(purged, enDash, "-");
-    purged = ReplaceAll(purged, timesSign, "x");
+    purged = ReplaceAll(std::move(purged), ringedA, "x");
+    purged = ReplaceAll(std::move(purged), "~", "");
+    purged = ReplaceAll(std::move(purged), enDash, "-");
+    purged = ReplaceAll(std::move(purged), timesSign, "x");
     if (purged != text) LogLine("Unprettfied: " + purged);
     return purged;
 }
@@ -57,7 +57,7 @@ std::string Window1::ReplaceFactorials(std::string text) {
         // Each replacement eats a "!", so once none is left no later match can change anything.
         if (text.find('!') == std::string::npos) break;
         const std::string found = match->SubExpressionString(0);
-        text = ReplaceAll(text, found, fact(ToInt32(Val(found))));
+        text = ReplaceAll(std::move(text), found, fact(ToInt32(Val(found))));
     }
     return text;
 }
@@ -66,15 +66,15 @@ std::string Window1::ReplacePi(const std::string& text) { return ReplaceAll(text
 
 void Window1::CalculateRewriteForDrop(std::string text) {
     unt = " ";
-    if (RadioButton4.Value() && InStr(text, "log") > 0) text = ReplaceAll(text, "log(", "log10(");
+    if (RadioButton4.Value() && InStr(text, "log") > 0) text = ReplaceAll(std::move(text), "log(", "log10(");
     if (RadioButton2.Value()) {
         // Each inverse goes first, so that its name no longer holds the plain name and "(".
-        text = ReplaceAll(text, "Asin(", "AsinD(");
-        text = ReplaceAll(text, "sin(", "sin((PI/180)*");
-        text = ReplaceAll(text, "Acos(", "AcosD(");
-        text = ReplaceAll(text, "cos(", "cos((PI/180)*");
-        text = ReplaceAll(text, "Atan(", "AtanD(");
-        text = ReplaceAll(text, "tan(", "tan((PI/180)*");
+        text = ReplaceAll(std::move(text), "Asin(", "AsinD(");
+        text = ReplaceAll(std::move(text), "sin(", "sin((PI/180)*");
+        text = ReplaceAll(std::move(text), "Acos(", "AcosD(");
+        text = ReplaceAll(std::move(text), "cos(", "cos((PI/180)*");
+        text = ReplaceAll(std::move(text), "Atan(", "AtanD(");
+        text = ReplaceAll(std::move(text), "tan(", "tan((PI/180)*");
     }
     text = ReplacePi(ReplaceFactorials(text));
     EditField1.SetText(text);
@@ -83,14 +83,14 @@ void Window1::CalculateRewriteForDrop(std::string text) {
 
 void Window1::CalculateRewriteForButton(std::string text) {
     unt = " ";
-    if (RadioButton4.Value() && InStr(text, "log") > 0) text = ReplaceAll(text, "log", "0.4342945*log");
+    if (RadioButton4.Value() && InStr(text, "log") > 0) text = ReplaceAll(std::move(text), "log", "0.4342945*log");
     if (RadioButton2.Value()) {
         // The plain function is left alone where its inverse stands, which the inverse's
         // rewriting would otherwise hit again.
         const std::pair<const char*, const char*> pairs[] = {{"Asin(", "sin("}, {"Acos(", "cos("}, {"Atan(", "tan("}};
         for (const auto& [inverse, plain] : pairs) {
-            if (InStr(text, inverse) > 0) text = ReplaceAll(text, inverse, std::string("(180/PI)*") + inverse);
-            else text = ReplaceAll(text, plain, std::string(plain) + "(PI/180)*");
+            if (InStr(text, inverse) > 0) text = ReplaceAll(std::move(text), inverse, std::string("(180/PI)*") + inverse);
+            else text = ReplaceAll(std::move(text), plain, std::string(plain) + "(PI/180)*");
         }
     }
     text = ReplacePi(ReplaceFactorials(text));

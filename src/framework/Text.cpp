@@ -228,6 +228,11 @@ std::string ReplaceAll(std::string_view source, std::string_view oldText, std::s
     return result;
 }
 
+std::string ReplaceAll(std::string&& source, std::string_view oldText, std::string_view newText) {
+    if (oldText.empty() || source.size() < oldText.size() || !MayContain(source, oldText)) return std::move(source);
+    return ReplaceAll(std::string_view(source), oldText, newText);
+}
+
 std::string LTrim(std::string_view s) {
     size_t i = 0, width = 1;
     while (i < s.size() && IsWhite(s, i, width)) i += width;

@@ -30,6 +30,9 @@ std::vector<std::string> Split(std::string_view source, std::string_view separat
 
 // Every case-blind match from the left is replaced; replaced text is not scanned again.
 std::string ReplaceAll(std::string_view source, std::string_view oldText, std::string_view newText);
+// The same for a text given away: when nothing matches it comes back without a copy, which
+// chains of rewrites over one text rely on to stay cheap.
+std::string ReplaceAll(std::string&& source, std::string_view oldText, std::string_view newText);
 
 std::string LTrim(std::string_view s);
 std::string RTrim(std::string_view s);

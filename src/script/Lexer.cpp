@@ -145,11 +145,24 @@ Token Lexer::LexNumber(std::size_t start)
         }
     }
     Token token = Make(TokenKind::Number, start, pos_);
+    // Converting a long literal takes the slow exact path, and one of them, pi written out,
+    // stands in nearly every program: the last one is remembered.
+    constexpr std::size_t kLong = 19;
+    static thread_local std::string lastLong;
+    static thread_local double lastLongValue = 0;
+    if (token.text.size() > kLong && token.text == lastLong) {
+        token.number = lastLongValue;
+        return token;
+    }
     const char* first = token.text.data();
     const char* last = first + token.text.size();
     const auto [ptr, ec] = std::from_chars(first, last, token.number);
     if (ec != std::errc() || ptr != last)
         token.number = OutOfRangeValue(token.text);
+    if (token.text.size() > kLong) {
+        lastLong = token.text;
+        lastLongValue = token.number;
+    }
     return token;
 }
 
