@@ -9,7 +9,7 @@ cd "$(dirname "$0")/.."
 sudo_cmd=()
 [ "$(id -u)" -ne 0 ] && sudo_cmd=(sudo)
 missing=()
-for p in qalc units libmuparser-dev; do
+for p in qalc units libmuparser-dev time; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
 done
 if [ ${#missing[@]} -gt 0 ]; then
