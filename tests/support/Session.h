@@ -35,6 +35,12 @@ struct Session {
     Session(const std::string& name, Fill prepare)
         : home(PrepareWith(name, prepare)), console(fw::HomeFolders(home)) {}
 
+    // The scratch home goes with the session, so that test runs leave nothing behind.
+    ~Session() {
+        std::error_code ignored;
+        std::filesystem::remove_all(home, ignored);
+    }
+
     // Runs console commands, one a line; returns what they printed.
     std::string Run(const std::string& commands) {
         std::istringstream in(commands);
