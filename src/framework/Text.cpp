@@ -332,6 +332,7 @@ std::string Str(double value) {
     // to_chars formats as printf does, without its locale and stream machinery.
     char text[400];
     char* end = std::to_chars(text, text + sizeof text, value, std::chars_format::scientific, 6).ptr;
+    *end = '\0';  // to_chars does not end the text, and atoi reads on until it ends
     const char* e = std::find(text, end, 'e');
     const int exponent = std::atoi(e + 1);
     if (exponent < -5 || exponent >= 7) return std::string(text, static_cast<size_t>(e - text)) + "e" + TrimmedExponent(exponent);
