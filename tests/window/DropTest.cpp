@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
+#include <iterator>
 
 #include "framework/Text.h"
 
@@ -135,4 +137,23 @@ TEST(LogSave, AppendsTheWholeLogUnderTheShortDate) {
     const std::string& log = s.w().EditField2.Text();
     const size_t firstSave = log.find("--Log Saved at ");
     EXPECT_EQ(saved, log.substr(0, log.find('\n', firstSave) + 1) + log);
+}
+
+// Replays the drop fuzzer's saved inputs (first byte: the action) through the console: each ends
+// in an answer, a log line or a message of the event boundary, never a crash.
+TEST(Drop, FuzzCorpusReplaysWithoutACrash) {
+    static const char* const actions[] = {"Calculate", "Convert", "Evaluate", "Physical Data", "Astro Data",
+                                          "Math Formulas", "Solve", "Settings"};
+    const std::filesystem::path folder = std::filesystem::path(VELMORA_TEST_DATA_DIR) / "fuzz/drop";
+    Session s("drop-corpus", true);
+    int files = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+        std::ifstream in(entry.path(), std::ios::binary);
+        const std::string input{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+        if (input.empty()) continue;
+        s.console.Choose(actions[static_cast<unsigned char>(input[0]) % 8]);
+        s.console.Drop(input.substr(1));
+        ++files;
+    }
+    EXPECT_GT(files, 0);
 }
