@@ -137,7 +137,8 @@ if(NOT deb)
 endif()
 
 run(${dpkg_deb} --field ${deb} Depends)
-set(needed libpugixml libpcre2-8)
+# pugixml and PCRE2 are linked in; Qt is what the window needs from the system.
+set(needed libc6)
 if(GUI)
   list(APPEND needed libqt6widgets6 libqt6multimedia6)
 endif()
