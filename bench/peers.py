@@ -46,13 +46,18 @@ def peak_mb(argv, stdin):
     return int(out.decode().strip().splitlines()[-1]) / 1024
 
 
-def measure(name, argv, stdin=None):
-    times = []
-    answer = ""
+def measure_all(programs):
+    """Median wall time, peak memory and answer of each (name, argv, stdin). The programs take
+    turns run by run, so that a slow moment of the machine falls on all of them alike."""
+    times = {name: [] for name, _, _ in programs}
+    answers = {}
     for _ in range(RUNS):
-        elapsed, answer = run_once(argv, stdin)
-        times.append(elapsed)
-    return name, statistics.median(times), peak_mb(argv, stdin), answer.splitlines()[-1] if answer else ""
+        for name, argv, stdin in programs:
+            elapsed, answer = run_once(argv, stdin)
+            times[name].append(elapsed)
+            answers[name] = answer.splitlines()[-1] if answer else ""
+    return [(name, statistics.median(times[name]), peak_mb(argv, stdin), answers[name])
+            for name, argv, stdin in programs]
 
 
 def table(title, rows, reference):
@@ -70,18 +75,18 @@ def one_shots():
                "drop 2 hp\nget clipboard\n")
     units = shutil.which("units")
     qalc = shutil.which("qalc")
-    rows = [measure("velmora-cli", [CLI, "--home", home], convert)]
+    programs = [("velmora-cli", [CLI, "--home", home], convert)]
     if units:
-        rows.append(measure("units", [units, "-t", "2 hp", "W"]))
+        programs.append(("units", [units, "-t", "2 hp", "W"], None))
     if qalc:
-        rows.append(measure("qalc", [qalc, "-t", "2 hp to W"]))
-    table(f"One-shot conversion, 2 hp to watts ({RUNS} runs each)", rows, 0)
-    rows = [measure("velmora-cli", [CLI, "--home", home, "2*sin(30)"])]
+        programs.append(("qalc", [qalc, "-t", "2 hp to W"], None))
+    table(f"One-shot conversion, 2 hp to watts ({RUNS} runs each)", measure_all(programs), 0)
+    programs = [("velmora-cli", [CLI, "--home", home, "2*sin(30)"], None)]
     if units:
-        rows.append(measure("units", [units, "-t", "2*sin(30 deg)"]))
+        programs.append(("units", [units, "-t", "2*sin(30 deg)"], None))
     if qalc:
-        rows.append(measure("qalc", [qalc, "-t", "2*sin(30 deg)"]))
-    table(f"One-shot calculation, 2*sin(30) in degrees ({RUNS} runs each)", rows, 0)
+        programs.append(("qalc", [qalc, "-t", "2*sin(30 deg)"], None))
+    table(f"One-shot calculation, 2*sin(30) in degrees ({RUNS} runs each)", measure_all(programs), 0)
     shutil.rmtree(home)
 
 
