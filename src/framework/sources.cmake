@@ -8,6 +8,7 @@ list(APPEND CORE_SOURCES
   framework/RecordingPlatform.cpp
   framework/RegEx.cpp
   framework/RowControls.cpp
+  framework/Numbers.cpp
   framework/Text.cpp
   framework/TextControl.cpp
   framework/Window.cpp
