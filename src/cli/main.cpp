@@ -20,9 +20,7 @@ int main(int argc, char** argv) {
     for (int i = 1; i < argc; ++i) {
         const std::string arg = argv[i];
         if (arg == "--home" && i + 1 < argc) {
-            const std::filesystem::path resources = folders.resources;
-            folders = fw::HomeFolders(argv[++i]);
-            folders.resources = resources;
+            folders = fw::HomeFolders(argv[++i], folders.resources);
         } else if (arg == "--action" && i + 1 < argc) {
             action = argv[++i];
         } else if (arg == "--log") {

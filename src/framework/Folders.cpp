@@ -53,8 +53,8 @@ FolderSet DesktopFolders(const fs::path& executable) {
     return folders;
 }
 
-FolderSet HomeFolders(const fs::path& home) {
-    FolderSet folders{home / "prefs", home / "data", home / "app", home / "resources"};
+FolderSet HomeFolders(const fs::path& home, const fs::path& resources) {
+    FolderSet folders{home / "prefs", home / "data", home / "app", resources.empty() ? home / "resources" : resources};
     std::error_code error;
     fs::create_directories(folders.applicationData, error);
     fs::create_directories(folders.preferences, error);

@@ -26,7 +26,9 @@ Ref<FolderItem> SpecialFolderItem(const FolderSet& folders, SpecialFolder which)
 FolderSet DesktopFolders(const std::filesystem::path& executable);
 
 // Everything under one folder, with no fallback, so that a test controls every file.
-FolderSet HomeFolders(const std::filesystem::path& home);
+// `resources` are the program's own pictures and sounds, which no home holds; without them the
+// set names DIR/resources.
+FolderSet HomeFolders(const std::filesystem::path& home, const std::filesystem::path& resources = {});
 
 // The folder that holds the shipped VLSupport/ and resources/, or "" if none is found.
 std::filesystem::path ShippedDataFolder(const std::filesystem::path& executable);

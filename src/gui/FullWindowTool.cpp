@@ -39,9 +39,9 @@ int main(int argc, char** argv) {
     const QDir out(QString::fromLocal8Bit(argv[1]));
     QTemporaryDir home;
     // The user's own preferences and formulas stay out of the picture; the shipped data goes in.
-    fw::FolderSet folders = fw::HomeFolders(home.path().toStdString());
+    fw::FolderSet folders =
+        fw::HomeFolders(home.path().toStdString(), std::filesystem::path(VELMORA_SOURCE_DATA_DIR) / "resources");
     folders.applicationData = fw::ShippedDataFolder(argv[0]);
-    folders.resources = std::filesystem::path(VELMORA_SOURCE_DATA_DIR) / "resources";
 
     ToolPlatform platform(folders);
     Window1 window(platform);

@@ -82,11 +82,7 @@ int main(int argc, char** argv) {
     }
 
     fw::FolderSet folders = fw::DesktopFolders(argv[0]);
-    if (!options.home.isEmpty()) {
-        const std::filesystem::path resources = folders.resources;
-        folders = fw::HomeFolders(options.home.toStdString());
-        folders.resources = resources;
-    }
+    if (!options.home.isEmpty()) folders = fw::HomeFolders(options.home.toStdString(), folders.resources);
     QtPlatform platform(folders);
     Window1 window(platform);
     WindowView view(window, platform);

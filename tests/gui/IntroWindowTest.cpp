@@ -17,32 +17,15 @@
 #include "gui/QtPlatform.h"
 #include "gui/WindowView.h"
 #include "shell/Window2.h"
-#include "support/Session.h"
+#include "QuietPlatform.h"
 
 namespace {
-// Qt's desktop with message boxes kept: a modal box would wait for a click forever.
-struct QuietPlatform : QtPlatform {
-    using QtPlatform::QtPlatform;
-    void MsgBox(const std::string& message) override { messages.push_back(message); }
-    std::vector<std::string> messages;
-};
-
-const std::filesystem::path kResources = std::filesystem::path(VELMORA_SOURCE_DATA_DIR) / "resources";
-
-fw::FolderSet Home(bool withData) {
-    const std::filesystem::path home = ScratchHome("intro-gui");
-    if (withData) InstallShippedData(home);
-    fw::FolderSet folders = fw::HomeFolders(home);
-    folders.resources = kResources;
-    return folders;
-}
-
 QImage Picture(const char* name) { return QImage(QString::fromStdString((kResources / name).string())); }
 }  // namespace
 
 // Each hot-spot, mapped from the picture back into the real main window, lies on what it names.
 TEST(IntroPicture, HotSpotsFallOnWhatTheyName) {
-    QuietPlatform platform(Home(true));
+    QuietPlatform platform(GuiHome("intro-gui", true));
     Window1 window(platform);
     WindowView view(window, platform);
     window.Open();
@@ -117,7 +100,7 @@ TEST(IntroPicture, TheTwoPicturesDifferOnlyInTheTarget) {
 }
 
 TEST(IntroWindow, ShowsThePictureAndHandsOver) {
-    QuietPlatform platform(Home(false));
+    QuietPlatform platform(GuiHome("intro-gui", false));
     int mainShown = 0;
     Window2 intro(platform, [&] { ++mainShown; });
     WindowView view(intro, platform);

@@ -21,24 +21,11 @@
 #include "framework/Folders.h"
 #include "gui/QtPlatform.h"
 #include "gui/WindowView.h"
-#include "support/Session.h"
+#include "QuietPlatform.h"
 
 namespace {
-// Qt's desktop, except that message boxes are kept: a modal box would wait for a click forever.
-struct TestPlatform : QtPlatform {
-    using QtPlatform::QtPlatform;
-    void MsgBox(const std::string& message) override { messages.push_back(message); }
-    std::vector<std::string> messages;
-};
-
-fw::FolderSet HomeWithShippedData() {
-    const std::filesystem::path home = ScratchHome("gui");
-    InstallShippedData(home);
-    return fw::HomeFolders(home);
-}
-
 struct Screen {
-    Screen() : platform(HomeWithShippedData()), window(platform), view(window, platform) {
+    Screen() : platform(GuiHome("gui", true)), window(platform), view(window, platform) {
         window.Open();
         EXPECT_EQ(platform.messages, std::vector<std::string>{});
     }
@@ -46,7 +33,7 @@ struct Screen {
     W* widget(const char* name) {
         return qobject_cast<W*>(view.BindingFor(name)->Widget());
     }
-    TestPlatform platform;
+    QuietPlatform platform;
     Window1 window;
     WindowView view;
 };
