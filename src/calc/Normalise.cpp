@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "calc/FactorialText.h"
 #include "framework/RegEx.h"
 #include "framework/Text.h"
 #include "window/Window1.h"
@@ -52,14 +53,15 @@ std::string Window1::ReplaceFactorials(std::string text) {
     if (text.find('!') == std::string::npos) return text;
     RegEx factorial;
     factorial.SearchPattern = "\\d+!";
+    FactorialText working(text);
     // Later matches come from the text as it was at the first search, not the rewritten one.
     for (auto match = factorial.Search(text); match; match = factorial.Search()) {
-        // Each replacement eats a "!", so once none is left no later match can change anything.
-        if (text.find('!') == std::string::npos) break;
+        // Once no run can match, no later match can change anything.
+        if (!working.CanMatch()) break;
         const std::string found = match->SubExpressionString(0);
-        text = ReplaceAll(std::move(text), found, fact(ToInt32(Val(found))));
+        working.ReplaceAll(found, fact(ToInt32(Val(found))));
     }
-    return text;
+    return working.Text();
 }
 
 std::string Window1::ReplacePi(const std::string& text) { return ReplaceAll(text, "PI", kPiDigits); }

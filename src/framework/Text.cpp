@@ -3,6 +3,8 @@
 
 #include "framework/Text.h"
 
+#include <string.h>
+
 namespace fw {
 
 namespace {
@@ -78,7 +80,13 @@ public:
             hay_ = source;
         }
     }
-    size_t Find(size_t from) const { return hay_.find(needle_, from); }
+    // glibc's memmem skips ahead where string_view::find stops at every first byte: long texts
+    // full of blanks are searched for blank-led words many times over.
+    size_t Find(size_t from) const {
+        if (from > hay_.size()) return std::string::npos;
+        const void* at = ::memmem(hay_.data() + from, hay_.size() - from, needle_.data(), needle_.size());
+        return at ? static_cast<size_t>(static_cast<const char*>(at) - hay_.data()) : std::string::npos;
+    }
     size_t NeedleSize() const { return needle_.size(); }
     bool NeedleEmpty() const { return needle_.empty(); }
 
@@ -140,8 +148,10 @@ int InStr(std::string_view source, std::string_view find) { return InStr(1, sour
 
 int InStr(int start, std::string_view source, std::string_view find) {
     if (start < 1) start = 1;
-    const Caseless hay(source, find);
     const size_t from = ByteOffset(source, start - 1);
+    // Folding keeps lengths, so a longer needle is never found, and is not folded to learn it.
+    if (find.size() > source.size() - from) return 0;
+    const Caseless hay(source, find);
     if (from >= source.size() && !hay.NeedleEmpty()) return 0;
     const size_t at = hay.NeedleEmpty() ? from : hay.Find(from);
     return at == std::string::npos ? 0 : CharCount(source, at) + 1;

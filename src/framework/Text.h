@@ -37,6 +37,8 @@ std::string ReplaceAll(std::string&& source, std::string_view oldText, std::stri
 std::string LTrim(std::string_view s);
 std::string RTrim(std::string_view s);
 std::string Trim(std::string_view s);
+// The fold that every case-blind comparison uses, so InStr(a, b) is non-zero exactly when
+// Lowercase(b) stands in Lowercase(a). It keeps the byte length.
 std::string Lowercase(std::string_view s);
 std::string Uppercase(std::string_view s);
 // The first n characters (n <= 0 gives "").

@@ -2,6 +2,7 @@
 
 #include "framework/RegEx.h"
 #include "framework/Text.h"
+#include "search/TermMatcher.h"
 #include "window/Window1.h"
 
 using namespace fw;
@@ -35,8 +36,9 @@ void Window1::mathematical(const std::string& term) {
 }
 
 void Window1::SearchFile(const std::string& term, const char* file, const char* clipboardReport, const char* logReport) {
-    bool wordFlag = true;
-    FolderItemRef item = platform.Folder(SpecialFolder::ApplicationData)->Child("VLSupport")->Child(file);
+    // No data folder at all is a missing file too, as the start-up log tells it.
+    FolderItemRef support = platform.Folder(SpecialFolder::ApplicationData)->Child("VLSupport");
+    FolderItemRef item = support ? support->Child(file) : nullptr;
     if (!item) {
         Clipboard clipboard(platform);
         clipboard.SetText(clipboardReport);
@@ -48,21 +50,24 @@ void Window1::SearchFile(const std::string& term, const char* file, const char* 
     TextInputStreamRef in = item->OpenAsTextFile();
     XmlDocument document(ReplaceLineEndings(in->ReadAll(), EndOfLine));
     XmlNodeList categories = document.Child(0)->Xql("Category");
-    const std::vector<std::string> words = Split(term, " ");
+    const int count = categories.Length();
+    std::vector<std::string> keys(static_cast<size_t>(count));
+    for (int index = 0; index < count; ++index)
+        keys[static_cast<size_t>(index)] = Lowercase(categories.Item(index)->Xql("Key").Item(0)->Child(0)->Value());
+    const TermMatcher matcher(term);
+    // In Literal mode the word test never fails, so every entry is a hit.
+    const std::vector<bool> allWords =
+        RadioButton5.Value() ? matcher.AllWordsIn(keys) : std::vector<bool>(keys.size(), true);
+    const std::string tab = "\t";
     const std::string tail = "\t(" + Str(BevelButton1.MenuValue()) + "-";
-    for (int index = 0; index < categories.Length(); ++index) {
+    for (int index = 0; index < count; ++index) {
+        const size_t at = static_cast<size_t>(index);
+        if (!allWords[at] && !matcher.TermIn(keys[at])) continue;
+        const std::string& marker = EditField1.Text().empty() ? term : tab;
         XmlNodeRef category = categories.Item(index);
-        const std::string marker = EditField1.Text().empty() ? term : "\t";
-        const std::string key = category->Xql("Key").Item(0)->Child(0)->Value();
-        if (RadioButton5.Value())
-            for (const std::string& word : words)
-                if (InStr(key, word) == 0) wordFlag = false;
-        if (InStr(key, term) != 0 || wordFlag) {
-            const std::string value = ReplaceLineEndings(category->Xql("Value").Item(0)->Child(0)->Value(), EndOfLine);
-            // Appended, not rebuilt: a Literal search lists the whole file.
-            EditField1.AppendText(EndOfLine + marker + ": " + value + tail + Str(index) + ")");
-        }
-        wordFlag = true;
+        const std::string value = ReplaceLineEndings(category->Xql("Value").Item(0)->Child(0)->Value(), EndOfLine);
+        // Appended, not rebuilt: a Literal search lists the whole file.
+        EditField1.AppendText(EndOfLine + marker + ": " + value + tail + Str(index) + ")");
     }
 }
 

@@ -1,5 +1,6 @@
 list(APPEND CORE_SOURCES
   search/ReferenceLists.cpp
   search/Searchers.cpp
+  search/TermMatcher.cpp
   search/SearchTab.cpp
 )

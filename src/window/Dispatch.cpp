@@ -11,7 +11,8 @@ using namespace fw;
 void Window1::Event_DropObject(const DragItem* obj, int) {
     Clipboard clipboard(platform);
     RegEx rg;
-    std::vector<std::string> unitWords = {"x", "zz"};
+    // Of the unit split only the word after the first blank is ever read.
+    std::string unitWord = "zz";
     if (StrEq(BevelButton1.Caption(), "Evaluate")) {
         // The Evaluate branch reads the drop without asking whether it carries text.
         if (!obj) throw NilObjectException("drag item");
@@ -33,12 +34,12 @@ void Window1::Event_DropObject(const DragItem* obj, int) {
     LogLine("Entered: " + text);
     const std::string caption = BevelButton1.Caption();
     if (StrEq(caption, "calculate") || StrEq(caption, "convert")) {
-        if (InStr(text, " ") > 0) unitWords = Split(text, " ");
+        if (InStr(text, " ") > 0) unitWord = NthField(text, " ", 2);
         text = FrontRewrite(text, CheckBox1.Value());
     }
     if (StrEq(caption, "convert") && !StrEq(PopupMenu2.Text(), "Number")) text = Str(Val(text));
     if (StrEq(caption, "calculate")) CalculateRewriteForDrop(text);
-    else if (StrEq(caption, "convert")) ConvertDrop(text, unitWords[1]);
+    else if (StrEq(caption, "convert")) ConvertDrop(text, unitWord);
     else if (IsSearchCaption(caption)) SearchRequest(caption, text, false);
     else PlayClaves();
 }
