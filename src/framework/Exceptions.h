@@ -44,4 +44,11 @@ public:
     const char* ClassName() const override { return "StackOverflowException"; }
 };
 
+// More memory than a calculation may take, such as a string doubled over and over.
+class OutOfMemoryException : public RuntimeException {
+public:
+    using RuntimeException::RuntimeException;
+    const char* ClassName() const override { return "OutOfMemoryException"; }
+};
+
 }  // namespace fw

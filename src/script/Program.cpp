@@ -104,15 +104,30 @@ void Program::Run(ScriptContext* context, RunHooks& hooks) const
     }
     std::string* stringTop = stringVariables + stringVariables_;
 
+    // Every string a run makes counts against one budget, so that a script cannot take the
+    // machine's memory by doubling a text: it ends like any other run-time error.
     int line = 0;
+    std::size_t stringBytes = 0;
+    auto spend = [&](std::size_t bytes) {
+        stringBytes += bytes;
+        if (stringBytes <= kStringBudget) return true;
+        hooks.RuntimeError(line, fw::OutOfMemoryException("The script's strings outgrew their memory."));
+        return false;
+    };
     for (const Instruction& in : code_) {
         switch (in.op) {
         case Op::Line: line = in.arg; break;
         case Op::PushNumber: *top++ = in.number; break;
-        case Op::PushString: *stringTop++ = strings_[in.arg]; break;
+        case Op::PushString:
+            if (!spend(strings_[in.arg].size())) return;
+            *stringTop++ = strings_[in.arg];
+            break;
         case Op::LoadNumber: *top++ = variables[in.arg]; break;
         case Op::StoreNumber: variables[in.arg] = *--top; break;
-        case Op::LoadString: *stringTop++ = stringVariables[in.arg]; break;
+        case Op::LoadString:
+            if (!spend(stringVariables[in.arg].size())) return;
+            *stringTop++ = stringVariables[in.arg];
+            break;
         case Op::StoreString: stringVariables[in.arg] = std::move(*--stringTop); break;
         case Op::Negate: top[-1] = -top[-1]; break;
         case Op::Add: --top; top[-1] += *top; break;
@@ -120,7 +135,11 @@ void Program::Run(ScriptContext* context, RunHooks& hooks) const
         case Op::Multiply: --top; top[-1] *= *top; break;
         case Op::Divide: --top; top[-1] /= *top; break;
         case Op::Power: --top; top[-1] = std::pow(top[-1], *top); break;
-        case Op::Concat: --stringTop; stringTop[-1] += *stringTop; break;
+        case Op::Concat:
+            --stringTop;
+            if (!spend(stringTop[-1].size() + stringTop->size())) return;
+            stringTop[-1] += *stringTop;
+            break;
         case Op::CallNumber1: top[-1] = in.fn1(top[-1]); break;
         case Op::CallNumber2: --top; top[-1] = in.fn2(top[-1], *top); break;
         case Op::CallHost:

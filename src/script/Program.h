@@ -61,6 +61,9 @@ public:
 
 class Program {
 public:
+    // Bytes of string a run may make in all: far beyond any answer, far below the machine's memory.
+    static constexpr std::size_t kStringBudget = std::size_t{64} << 20;
+
     // Appends an instruction and keeps count of the stack depth it needs.
     void Emit(Op op, std::int32_t arg = 0);
     void EmitNumber(double value);
