@@ -1,7 +1,12 @@
 #include "framework/FolderItem.h"
 
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
+
+#include "framework/SafeWrite.h"
 
 #include "framework/Text.h"
 
@@ -33,33 +38,37 @@ bool FolderItem::CreateAsFolder() const {
 }
 
 TextInputStreamRef FolderItem::OpenAsTextFile() const {
-    std::error_code error;
-    if (!fs::is_regular_file(path_, error)) return nullptr;
-    std::FILE* file = std::fopen(path_.c_str(), "rb");
-    if (!file) return nullptr;
-    // Read in one go at the size the file has now; a file still growing is read to its end.
-    std::string content(static_cast<size_t>(fs::file_size(path_, error)), '\0');
-    if (error) content.clear();
-    content.resize(std::fread(content.data(), 1, content.size(), file));
-    char chunk[4096];
-    for (size_t got; (got = std::fread(chunk, 1, sizeof chunk, file)) > 0;) content.append(chunk, got);
-    std::fclose(file);
-    return MakeRef<TextInputStream>(std::move(content));
+    // Not blocking: a FIFO in a file's place is no file, not a wait.
+    const int fd = ::open(path_.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0) return nullptr;
+    struct stat info {};
+    std::string content;
+    bool ok = ::fstat(fd, &info) == 0 && S_ISREG(info.st_mode);
+    // Read at the size the file has now, and on to its end if it is still growing.
+    if (ok) content.reserve(static_cast<size_t>(info.st_size));
+    char chunk[1 << 16];
+    while (ok) {
+        const ssize_t got = ::read(fd, chunk, sizeof chunk);
+        if (got > 0) content.append(chunk, static_cast<size_t>(got));
+        else if (got == 0) break;
+        else ok = errno == EINTR;
+    }
+    ::close(fd);
+    return ok ? MakeRef<TextInputStream>(std::move(content)) : nullptr;
 }
 
-TextOutputStreamRef FolderItem::CreateTextFile() const {
-    // The temporary file sits beside the target so that the rename stays on one file system.
-    fs::path temporary = path_;
-    temporary += ".tmp-" + std::to_string(::getpid());
-    std::FILE* file = std::fopen(temporary.c_str(), "wb");
-    if (!file) return nullptr;
-    return MakeRef<TextOutputStream>(file, path_, temporary);
-}
+TextOutputStreamRef FolderItem::CreateTextFile() const { return OpenStream(false); }
 
-TextOutputStreamRef FolderItem::AppendToTextFile() const {
-    std::FILE* file = std::fopen(path_.c_str(), "ab");
+TextOutputStreamRef FolderItem::AppendToTextFile() const { return OpenStream(true); }
+
+TextOutputStreamRef FolderItem::OpenStream(bool append) const {
+    // Appending too goes through a whole new file: a kill in the midst of a long formula must
+    // not leave half of it to be glued to the next one.
+    const fs::path target = WriteTarget(path_);
+    fs::path temporary;
+    std::FILE* file = OpenReplacement(target, append, &temporary);
     if (!file) return nullptr;
-    return MakeRef<TextOutputStream>(file, path_, fs::path());
+    return MakeRef<TextOutputStream>(file, target, temporary);
 }
 
 std::string TextInputStream::ReadAll() {
@@ -104,20 +113,10 @@ void TextOutputStream::WriteLine(const std::string& text) {
 
 void TextOutputStream::Close() {
     if (!file_) return;
-    bool ok = !failed_ && std::fflush(file_) == 0;
-    if (ok && !temporary_.empty()) ok = ::fsync(::fileno(file_)) == 0;
-    ok = (std::fclose(file_) == 0) && ok;
+    std::FILE* file = file_;
     file_ = nullptr;
-    if (temporary_.empty()) {
-        if (!ok) throw IOException("could not write " + target_.string());
-        return;
-    }
-    std::error_code error;
-    if (ok) fs::rename(temporary_, target_, error);
-    if (!ok || error) {
-        fs::remove(temporary_, error);
-        throw IOException("could not replace " + target_.string());
-    }
+    if (!CommitReplacement(file, failed_, temporary_, target_))
+        throw IOException("could not write " + target_.string() + ": the old file is kept");
 }
 
 }  // namespace fw

@@ -1,7 +1,7 @@
 #pragma once
-// Files and folders by path, and text streams on them. A file that replaces an old one is
-// written to a temporary file and renamed into place at Close, so a failure never leaves it
-// half written.
+// Files and folders by path, and text streams on them. Every write, appending too, goes to a
+// temporary file that is renamed into place at Close, so a failure never leaves a file half
+// written (framework/SafeWrite.h).
 
 #include <cstdio>
 #include <filesystem>
@@ -37,14 +37,17 @@ public:
     // Makes the folder and its parents; false if it cannot.
     bool CreateAsFolder() const;
 
-    // nil if the file cannot be opened.
+    // nil if the file cannot be opened or is no regular file.
     TextInputStreamRef OpenAsTextFile() const;
-    // Replaces the file, atomically at Close. nil if the folder cannot be written.
+    // Replaces the file, atomically at Close. nil if the folder cannot be written or the file is
+    // there but no regular file. A symbolic link is written through and kept.
     TextOutputStreamRef CreateTextFile() const;
-    // Writes behind the end, creating the file if need be. nil if it cannot be opened.
+    // Writes behind the end, creating the file if need be; the same rules otherwise.
     TextOutputStreamRef AppendToTextFile() const;
 
 private:
+    TextOutputStreamRef OpenStream(bool append) const;
+
     std::filesystem::path path_;
     Lookup lookup_;
 };
@@ -66,7 +69,7 @@ private:
 
 class TextOutputStream {
 public:
-    // Replacing: `target` is renamed over at Close from `temporary`. Appending: no temporary.
+    // `target` is replaced at Close by `temporary`, which `file` writes.
     TextOutputStream(std::FILE* file, std::filesystem::path target, std::filesystem::path temporary);
     ~TextOutputStream();
     TextOutputStream(const TextOutputStream&) = delete;
@@ -77,7 +80,7 @@ public:
 
     void Write(const std::string& text);
     void WriteLine(const std::string& text);
-    // Commits the file; raises IOException if the data could not be written.
+    // Commits the file; raises IOException, with the old file kept, if it could not be written.
     void Close();
 
 private:

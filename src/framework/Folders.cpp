@@ -1,6 +1,7 @@
 #include "framework/Folders.h"
 
 #include "framework/Platform.h"
+#include "framework/SafeWrite.h"
 
 #include <cstdlib>
 #include <system_error>
@@ -60,6 +61,11 @@ FolderSet HomeFolders(const fs::path& home, const fs::path& resources) {
     fs::create_directories(folders.preferences, error);
     fs::create_directories(folders.application, error);
     return folders;
+}
+
+void RemoveStaleTemporaries(const FolderSet& folders) {
+    RemoveStaleTemporaries(folders.preferences);
+    RemoveStaleTemporaries(folders.application);
 }
 
 FolderItemRef SpecialFolderItem(const FolderSet& folders, SpecialFolder which) {

@@ -30,6 +30,10 @@ FolderSet DesktopFolders(const std::filesystem::path& executable);
 // set names DIR/resources.
 FolderSet HomeFolders(const std::filesystem::path& home, const std::filesystem::path& resources = {});
 
+// Removes what interrupted writes left in the folders the program writes to. Call it while
+// holding the home (HomeLock), before anything is written.
+void RemoveStaleTemporaries(const FolderSet& folders);
+
 // The folder that holds the shipped VLSupport/ and resources/, or "" if none is found.
 std::filesystem::path ShippedDataFolder(const std::filesystem::path& executable);
 
