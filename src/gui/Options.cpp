@@ -2,6 +2,7 @@
 
 const char* const kUsage =
     "usage: velmora [--home DIR] [--drop TEXT | --drop-selection] [--run COMMANDS] [--quit]\n"
+    "               [--wait SECONDS] [--help] [--version]\n"
     "               [--commands FILE] [--size WxH] [--page PANEL=N]... [--screenshot FILE]\n"
     "               [--intro-click X,Y]... [--intro-screenshot FILE]\n";
 
@@ -15,6 +16,10 @@ Options Options::Parse(const QStringList& arguments) {
             options.drop = options.dropSelection = true;
         } else if (arg == QLatin1String("--quit")) {
             options.quit = true;
+        } else if (arg == QLatin1String("--help") || arg == QLatin1String("-h")) {
+            options.help = true;
+        } else if (arg == QLatin1String("--version")) {
+            options.version = true;
         } else if (!hasValue) {
             options.error = QStringLiteral("unknown or incomplete option %1").arg(arg);
         } else if (arg == QLatin1String("--home")) {
@@ -36,6 +41,10 @@ Options Options::Parse(const QStringList& arguments) {
         } else if (arg == QLatin1String("--drop")) {
             options.drop = true;
             options.dropText = value();
+        } else if (arg == QLatin1String("--wait")) {
+            bool number = false;
+            options.wait = value().toInt(&number);
+            if (!number || options.wait < 0) options.error = QStringLiteral("--wait takes a number of seconds");
         } else if (arg == QLatin1String("--run")) {
             options.run = value();
         } else {

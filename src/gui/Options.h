@@ -20,6 +20,9 @@ struct Options {
     QString dropText;
     QString run;         // --run "LINES": commands for the running copy, its answer printed
     bool quit = false;   // --quit: end the running copy
+    int wait = 60;       // --wait SECONDS: how long a later start waits for a busy running copy
+    bool help = false;   // --help
+    bool version = false;  // --version
     QString error;       // a usage fault, empty when the line was understood
 
     static Options Parse(const QStringList& arguments);

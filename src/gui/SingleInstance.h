@@ -1,8 +1,10 @@
 #pragma once
-// One running Velmora per user and home: a second start hands its request to the running
-// window over a local socket and exits, so a desktop shortcut can drop text on the target.
+// One running Velmora per home: a later start hands its request to the running copy over a
+// local socket and exits, so a desktop shortcut can drop text on the target. Only the user's
+// own processes are spoken to, on either side.
 
 #include <functional>
+#include <string>
 
 #include <QByteArray>
 #include <QString>
@@ -10,7 +12,7 @@
 class QLocalServer;
 
 struct InstanceRequest {
-    enum class Kind { Show, Drop, Run };
+    enum class Kind { Show, Drop, DropSelection, Run };
     Kind kind = Kind::Show;
     QString text;  // the dropped text, or command lines to run
 
@@ -18,21 +20,29 @@ struct InstanceRequest {
     static InstanceRequest Decode(const QByteArray& bytes);
 };
 
+// What the running copy answers: output for standard output, or why it could not do it.
+struct InstanceReply {
+    bool ok = true;
+    QByteArray text;
+
+    QByteArray Encode() const;
+    static InstanceReply Decode(const QByteArray& bytes);
+};
+
+// Hands `request` to the copy that listens at `socketPath` and holds the home as process
+// `holder`, waiting up to `waitSeconds` for a busy one. Prints the answer and returns the exit
+// status of this start. Needs no display.
+int HandOver(const std::string& socketPath, const InstanceRequest& request, int waitSeconds, long holder);
+
 class SingleInstance {
 public:
-    using Handler = std::function<QByteArray(const InstanceRequest&)>;
+    using Handler = std::function<InstanceReply(const InstanceRequest&)>;
 
-    // `home` is the folder the program keeps its files in: one copy runs for each.
-    explicit SingleInstance(const QString& home);
     ~SingleInstance();
-
-    // Hands the request to a running copy and puts its answer in `reply`; false if none answers.
-    bool SendToRunning(const InstanceRequest& request, QByteArray* reply = nullptr) const;
-    // Starts answering later starts; each request reaches `handler` on the GUI thread, and
-    // what it returns goes back to the sender.
-    bool Listen(Handler handler);
+    // Starts answering later starts at `socketPath`, which the caller's home lock makes ours;
+    // each request reaches `handler` on the GUI thread, and its answer goes back.
+    bool Listen(const std::string& socketPath, Handler handler);
 
 private:
-    QString name_;
     QLocalServer* server_ = nullptr;
 };

@@ -2,6 +2,9 @@
 // drop or commands to it and exits. See kUsage for the options.
 
 #include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <optional>
 #include <sstream>
 
 #include <QApplication>
@@ -12,10 +15,13 @@
 #include "cli/Commands.h"
 #include "framework/EventBoundary.h"
 #include "framework/Folders.h"
+#include "framework/HomeLock.h"
 #include "gui/MenuView.h"
 #include "gui/Options.h"
 #include "gui/QtPlatform.h"
+#include "gui/InstanceAddress.h"
 #include "gui/SingleInstance.h"
+#include "gui/TerminationSignals.h"
 #include "gui/WindowView.h"
 #include "shell/Window2.h"
 #include "window/Window1.h"
@@ -47,42 +53,78 @@ void Raise(QWidget& view) {
     view.activateWindow();
 }
 
-// Talks to a running copy; true when one answered and this start is done.
-bool HandOver(const Options& options, const SingleInstance& instance) {
-    InstanceRequest request;
-    if (options.quit) request = {InstanceRequest::Kind::Run, QStringLiteral("quit")};
-    else if (!options.run.isEmpty()) request = {InstanceRequest::Kind::Run, options.run};
-    else if (options.drop)
-        request = {InstanceRequest::Kind::Drop, options.dropSelection ? SelectedText() : options.dropText};
-    QByteArray reply;
-    if (!instance.SendToRunning(request, &reply)) return false;
-    std::fwrite(reply.constData(), 1, static_cast<size_t>(reply.size()), stdout);
-    return true;
+InstanceRequest RequestOf(const Options& options) {
+    if (options.quit) return {InstanceRequest::Kind::Run, QStringLiteral("quit")};
+    if (!options.run.isEmpty()) return {InstanceRequest::Kind::Run, options.run};
+    if (options.dropSelection) return {InstanceRequest::Kind::DropSelection, {}};
+    if (options.drop) return {InstanceRequest::Kind::Drop, options.dropText};
+    return {};
+}
+
+// An empty drop is never made: a shortcut pressed with nothing selected says so instead.
+const char* const kNothingSelected = "velmora: nothing is selected; nothing was dropped\n";
+
+// Qt would abort without a screen to show on; say so and end.
+bool HasDisplay() {
+    for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        if (const char* value = std::getenv(variable); value && *value) return true;
+    return false;
 }
 }  // namespace
 
 int main(int argc, char** argv) {
-    QApplication app(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Velmora"));
-    QApplication::setApplicationVersion(QStringLiteral("3.0.0"));
-    QApplication::setDesktopFileName(QStringLiteral("org.velmora.Velmora"));
-    QApplication::setQuitOnLastWindowClosed(true);
-
-    const Options options = Options::Parse(QApplication::arguments());
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i) arguments << QString::fromLocal8Bit(argv[i]);
+    const Options options = Options::Parse(arguments);
     if (!options.error.isEmpty()) {
         std::fprintf(stderr, "velmora: %s\n%s", qPrintable(options.error), kUsage);
         return 2;
     }
-    SingleInstance instance(options.home);
-    if (!options.Solo() && HandOver(options, instance)) return 0;
-    if (options.quit) return 0;
-    if (!options.run.isEmpty()) {
-        std::fprintf(stderr, "velmora: no running copy to take the commands\n");
+    if (options.help) {
+        std::fputs(kUsage, stdout);
+        return 0;
+    }
+    if (options.version) {
+        std::puts("velmora 3.0.0");
+        return 0;
+    }
+    if (options.drop && !options.dropSelection && options.dropText.isEmpty()) {
+        std::fputs("velmora: the text to drop is empty; nothing was dropped\n", stderr);
         return 1;
     }
 
     fw::FolderSet folders = fw::DesktopFolders(argv[0]);
     if (!options.home.isEmpty()) folders = fw::HomeFolders(options.home.toStdString(), folders.resources);
+    // A picture of the window is taken beside a running copy and leaves the home alone.
+    std::optional<fw::HomeLock> lock;
+    std::string socketPath;
+    if (!options.Solo()) {
+        lock.emplace(folders.application);
+        const std::filesystem::path runtime = PrivateRuntimeFolder();
+        if (!runtime.empty()) socketPath = InstanceSocketPath(runtime, folders);
+        if (!lock->Held()) return HandOver(socketPath, RequestOf(options), options.wait, lock->Holder());
+        fw::RemoveStaleTemporaries(folders);
+    }
+    if (options.quit) return 0;
+    if (!options.run.isEmpty()) {
+        std::fprintf(stderr, "velmora: no running copy to take the commands\n");
+        return 1;
+    }
+    if (!HasDisplay()) {
+        std::fprintf(stderr, "velmora: no display to show the window on (DISPLAY and WAYLAND_DISPLAY are unset)\n");
+        return 1;
+    }
+
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Velmora"));
+    QApplication::setApplicationVersion(QStringLiteral("3.0.0"));
+    QApplication::setDesktopFileName(QStringLiteral("org.velmora.Velmora"));
+    QApplication::setQuitOnLastWindowClosed(true);
+    if (options.dropSelection && SelectedText().isEmpty()) {
+        std::fputs(kNothingSelected, stderr);
+        return 1;
+    }
+
     QtPlatform platform(folders);
     Window1 window(platform);
     WindowView view(window, platform);
@@ -132,14 +174,36 @@ int main(int argc, char** argv) {
         Screenshot(introView, options.introScreenshot);
         return QApplication::exec();
     }
-    instance.Listen([&](const InstanceRequest& request) -> QByteArray {
-        switch (request.kind) {
-        case InstanceRequest::Kind::Show: Raise(intro.IsClosed() ? static_cast<QWidget&>(view) : introView); return {};
-        case InstanceRequest::Kind::Drop: passIntro(); view.DeliverDrop(request.text); return {};
-        case InstanceRequest::Kind::Run: passIntro(); return RunLines(commands, request.text);
+    SingleInstance instance;
+    if (!socketPath.empty())
+        instance.Listen(socketPath, [&](const InstanceRequest& request) -> InstanceReply {
+            switch (request.kind) {
+            case InstanceRequest::Kind::Show:
+                Raise(intro.IsClosed() ? static_cast<QWidget&>(view) : introView);
+                return {};
+            case InstanceRequest::Kind::Drop: passIntro(); view.DeliverDrop(request.text); return {};
+            case InstanceRequest::Kind::DropSelection: {
+                const QString text = SelectedText();
+                if (text.isEmpty()) return {false, kNothingSelected};
+                passIntro();
+                view.DeliverDrop(text);
+                return {};
+            }
+            case InstanceRequest::Kind::Run: passIntro(); return {true, RunLines(commands, request.text)};
+            }
+            return {};
+        });
+    // A message box that is up is closed first, so that the window does not close beneath the
+    // handler that showed it.
+    std::function<void()> end = [&] {
+        if (QWidget* box = QApplication::activeModalWidget()) {
+            box->close();
+            QTimer::singleShot(100, qApp, end);
+            return;
         }
-        return {};
-    });
+        RunLines(commands, QStringLiteral("quit"));
+    };
+    EndOnTerminationSignals(end);
     if (options.drop) {
         passIntro();
         view.DeliverDrop(options.dropSelection ? SelectedText() : options.dropText);

@@ -4,11 +4,13 @@ add_library(velmora_gui STATIC
   gui/ButtonBindings.cpp
   gui/ControlBinding.cpp
   gui/FullWindowPicture.cpp
+  gui/InstanceAddress.cpp
   gui/ListBindings.cpp
   gui/MenuView.cpp
   gui/Options.cpp
   gui/QtPlatform.cpp
   gui/SingleInstance.cpp
+  gui/TerminationSignals.cpp
   gui/TextBindings.cpp
   gui/WindowView.cpp
 )
