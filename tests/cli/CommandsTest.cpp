@@ -17,11 +17,13 @@ struct Seen {
 };
 
 const Seen kSeen[] = {
-    {"StatesOfControls", "get PushButton40.Enabled\nget listbox3.visible\nget PushButton40.enabled", "true\nfalse\ntrue\n",
-     ""},
+    {"StatesOfControls", "get Listbox3.Visible\nclick ImageWell1\nchoose Evaluate\nget listbox3.visible",
+     "false\ntrue\n", ""},
     // Without Purge Pretty the = key plays claves and never enables itself again.
-    {"GreyedEqualsKeyAndItsSound", "click ImageWell1\nclick CheckBox1\npush PushButton40\nget PushButton40.Enabled\nget sounds",
-     "false\nclaves\n", ""},
+    {"GreyedEqualsKeyAndItsSound",
+     "click ImageWell1\nget PushButton40.Enabled\nclick CheckBox1\npush PushButton40\nget PushButton40.Enabled\n"
+     "get sounds",
+     "true\nfalse\nclaves\n", ""},
     {"BeepsAndSoundsInOrder", "drop 2+2\nchoose Solve\ndrop 1\ndrop 2\nget sounds", "beep\nclaves\nclaves\n", ""},
     {"MessagesOneALine", "push PushButton34\nset PushButton40 1\nget messages",
      "Nothing In Memory\nAn exception of class RuntimeException was not handled. (PushButton40 takes no value)\n",
