@@ -127,9 +127,9 @@ std::string Format(double value, std::string_view mask) {
         // to_chars rounds the decimal digits exactly, subnormals and values just below a power
         // of ten included, and carries 9.99... into the exponent itself.
         std::string text(static_cast<size_t>(maxFraction) + 16, '\0');
-        char* const end =
-            std::to_chars(text.data(), text.data() + text.size(), magnitude, std::chars_format::scientific, maxFraction).ptr;
-        text.resize(static_cast<size_t>(end - text.data()));
+        const std::to_chars_result written = std::to_chars(text.data(), text.data() + text.size(), magnitude,
+                                                           std::chars_format::scientific, maxFraction);
+        text.resize(static_cast<size_t>(written.ptr - text.data()));
         const size_t e = text.find('e');
         exponent = std::stoi(text.substr(e + 1));
         integer = text.substr(0, 1);
