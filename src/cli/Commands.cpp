@@ -45,7 +45,31 @@ std::string EscapeNewlines(const std::string& text) {
     return result;
 }
 
+// Prints the record `name` names, one entry a line; false if it names none.
+bool Commands::List(const std::string& name, std::ostream& out, std::ostream& err) const {
+    const std::pair<const char*, const std::vector<std::string>*> records[] = {
+        {"messages", messages}, {"sounds", sounds}, {"urls", urls}};
+    for (const auto& [recordName, record] : records) {
+        if (!StrEq(name, recordName)) continue;
+        if (!record) {
+            err << "error: this desktop keeps no record of " << recordName << "\n";
+            return true;
+        }
+        for (const std::string& entry : *record) out << EscapeNewlines(entry) << "\n";
+        return true;
+    }
+    return false;
+}
+
 bool Commands::Get(const std::string& name, std::string& value) {
+    // NAME.Enabled and NAME.Visible of any control; no control's name holds a dot.
+    if (const size_t dot = name.rfind('.'); dot != std::string::npos) {
+        const Control* control = window.Find(name.substr(0, dot));
+        const std::string property = name.substr(dot + 1);
+        if (!control || !(StrEq(property, "Enabled") || StrEq(property, "Visible"))) return false;
+        value = (StrEq(property, "Enabled") ? control->Enabled() : control->Visible()) ? "true" : "false";
+        return true;
+    }
     if (StrEq(name, "clipboard")) value = platform.ClipboardText();
     else if (StrEq(name, "log")) value = window.EditField2.Text();
     else if (StrEq(name, "size")) value = Str(window.Width()) + "x" + Str(window.Height());
@@ -116,9 +140,12 @@ bool Commands::Execute(const std::string& line, std::ostream& out, std::ostream&
     }
     else if (command == "timer") RunEvent(platform, [this] { window.Timer1.Fire(); });
     else if (command == "get") {
+        const std::string what = Trim(rest);
         std::string text;
-        if (Get(Trim(rest), text)) out << EscapeNewlines(text) << "\n";
-        else err << "error: no such name " << rest << "\n";
+        if (!List(what, out, err)) {
+            if (Get(what, text)) out << EscapeNewlines(text) << "\n";
+            else err << "error: no such name " << rest << "\n";
+        }
     } else if (command == "push" || command == "click" || command == "set") {
         Control* control = window.Find(name);
         if (!control) {

@@ -6,6 +6,7 @@
 #include <functional>
 #include <iosfwd>
 #include <string>
+#include <vector>
 
 #include "framework/Platform.h"
 #include "window/Window1.h"
@@ -25,8 +26,14 @@ public:
 
     // Holds or releases the shift key, where the desktop can pretend to.
     std::function<void(bool)> holdShift;
+    // What the desktop showed and played so far, for `get messages`, `get sounds` and
+    // `get urls`; left unset where the desktop keeps no record.
+    const std::vector<std::string>* messages = nullptr;
+    const std::vector<std::string>* sounds = nullptr;
+    const std::vector<std::string>* urls = nullptr;
 
 private:
+    bool List(const std::string& name, std::ostream& out, std::ostream& err) const;
     bool Get(const std::string& name, std::string& value);
     void Click(fw::Control& control, const std::string& rest);
     void Set(fw::Control& control, const std::string& value);

@@ -2,10 +2,14 @@
 
 #include "framework/EventBoundary.h"
 
-Console::Console(fw::FolderSet folders, bool shiftAtLaunch)
+Console::Console(fw::FolderSet folders, bool shiftAtLaunch, std::ostream* messagesTo)
     : platform(std::move(folders)), window(platform), commands(window, platform),
       intro(platform, [this] { ShowMainWindow(); }) {
+    platform.messagesTo = messagesTo;
     commands.holdShift = [this](bool down) { platform.shift = down; };
+    commands.messages = &platform.messages;
+    commands.sounds = &platform.sounds;
+    commands.urls = &platform.urls;
     platform.shift = shiftAtLaunch;
     intro.Open();
     platform.shift = false;

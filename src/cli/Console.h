@@ -12,8 +12,9 @@
 
 class Console {
 public:
-    // `shiftAtLaunch` holds the shift key while the introduction window opens.
-    explicit Console(fw::FolderSet folders, bool shiftAtLaunch = false);
+    // `shiftAtLaunch` holds the shift key while the introduction window opens; each message
+    // box, from the first on, is also written to `messagesTo` if given.
+    explicit Console(fw::FolderSet folders, bool shiftAtLaunch = false, std::ostream* messagesTo = nullptr);
 
     bool Execute(const std::string& line, std::ostream& out, std::ostream& err) {
         return commands.Execute(line, out, err);

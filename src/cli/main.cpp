@@ -36,7 +36,9 @@ int main(int argc, char** argv) {
         }
     }
 
-    Console console(folders, shift);
+    // Message boxes and unhandled faults go to standard error as they come, so that a console
+    // user learns why no answer came.
+    Console console(folders, shift, &std::cerr);
     if (!action.empty() && !console.Choose(action)) {
         std::cerr << "error: no action " << action << "\n";
         return 2;

@@ -77,7 +77,9 @@ void Window1::PushButton44_Action() {
         const std::string converted =
             InStr(EditField5.Text(), " ") > 0 ? NthField(EditField5.Text(), " ", 1) : EditField5.Text();
         // x per old unit is x/f per new one, and x^2/(x*f) is exactly that: no inverse table.
-        EditField4.SetText(Str(number) + "^2/" + converted);
+        // The engine reads "-5^2" as -(5^2), so a negative x goes in parentheses.
+        const std::string x = number < 0 ? "(" + Str(number) + ")" : Str(number);
+        EditField4.SetText(x + "^2/" + converted);
         BevelButton1.SetCaption("Calculate");
         PushButton40.Push();
         // Three blanks in all: behind the answer, this one, and the one mid starts with.

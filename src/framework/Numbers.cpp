@@ -121,20 +121,26 @@ std::string Format(double value, std::string_view mask) {
         if (c != '0' && c != '#' && c != ',') prefix += c;
 
     int exponent = 0;
-    double magnitude = std::fabs(value);
-    if (exponentAt != std::string_view::npos && magnitude != 0) {
-        exponent = static_cast<int>(std::floor(std::log10(magnitude)));
-        magnitude /= std::pow(10.0, exponent);
-        // Rounding may carry the mantissa to 10.
-        char probe[64];
-        std::snprintf(probe, sizeof probe, "%.*f", maxFraction, magnitude);
-        if (std::atof(probe) >= 10) magnitude /= 10, ++exponent;
+    const double magnitude = std::fabs(value);
+    std::string integer, fraction;
+    if (exponentAt != std::string_view::npos) {
+        // to_chars rounds the decimal digits exactly, subnormals and values just below a power
+        // of ten included, and carries 9.99... into the exponent itself.
+        std::string text(static_cast<size_t>(maxFraction) + 16, '\0');
+        const std::to_chars_result written = std::to_chars(text.data(), text.data() + text.size(), magnitude,
+                                                           std::chars_format::scientific, maxFraction);
+        text.resize(static_cast<size_t>(written.ptr - text.data()));
+        const size_t e = text.find('e');
+        exponent = std::stoi(text.substr(e + 1));
+        integer = text.substr(0, 1);
+        if (maxFraction > 0) fraction = text.substr(2, e - 2);
+    } else {
+        char text[512];
+        std::snprintf(text, sizeof text, "%.*f", maxFraction, magnitude);
+        const std::string digits = text;
+        integer = digits.substr(0, digits.find('.'));
+        if (digits.find('.') != std::string::npos) fraction = digits.substr(digits.find('.') + 1);
     }
-    char text[512];
-    std::snprintf(text, sizeof text, "%.*f", maxFraction, magnitude);
-    std::string digits = text;
-    std::string integer = digits.substr(0, digits.find('.'));
-    std::string fraction = digits.find('.') == std::string::npos ? std::string() : digits.substr(digits.find('.') + 1);
     while (static_cast<int>(fraction.size()) > minFraction && !fraction.empty() && fraction.back() == '0') fraction.pop_back();
     if (integer == "0" && minInteger == 0) integer.clear();
     while (static_cast<int>(integer.size()) < minInteger) integer.insert(integer.begin(), '0');

@@ -1,6 +1,7 @@
 #include "framework/RecordingPlatform.h"
 
 #include <cstdio>
+#include <ostream>
 
 namespace fw {
 
@@ -9,6 +10,11 @@ RecordingPlatform::RecordingPlatform(FolderSet folderSet) : folders(std::move(fo
 void RecordingPlatform::SetClipboardText(const std::string& text) {
     clipboard = text;
     ++clipboardWrites;
+}
+
+void RecordingPlatform::MsgBox(const std::string& message) {
+    messages.push_back(message);
+    if (messagesTo) *messagesTo << "message: " << message << std::endl;
 }
 
 FolderItemRef RecordingPlatform::Folder(SpecialFolder which) { return SpecialFolderItem(folders, which); }

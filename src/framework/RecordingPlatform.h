@@ -2,6 +2,7 @@
 // A desktop without a screen: it records what the program asks of it, so that tests and the
 // console can read it back and steer what the desktop answers.
 
+#include <iosfwd>
 #include <string>
 #include <vector>
 
@@ -16,9 +17,12 @@ public:
 
     void SetClipboardText(const std::string& text) override;
     std::string ClipboardText() override { return clipboard; }
-    void Beep() override { ++beeps; }
+    void Beep() override {
+        ++beeps;
+        sounds.push_back("beep");
+    }
     void PlaySound(const std::string& name) override { sounds.push_back(name); }
-    void MsgBox(const std::string& message) override { messages.push_back(message); }
+    void MsgBox(const std::string& message) override;
     void ShowURL(const std::string& url) override { urls.push_back(url); }
     bool AsyncShiftKey() override { return shift; }
     FolderItemRef Folder(SpecialFolder which) override;
@@ -31,9 +35,12 @@ public:
     std::string clipboard;
     int clipboardWrites = 0;
     int beeps = 0;
+    // Every beep ("beep") and named sound ("claves"), in the order heard.
     std::vector<std::string> sounds;
     std::vector<std::string> messages;
     std::vector<std::string> urls;
+    // Where each message box is also written as it comes up: a console shows no boxes.
+    std::ostream* messagesTo = nullptr;
     bool shift = false;
     std::time_t now;
     std::string systemVersion;

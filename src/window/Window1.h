@@ -100,7 +100,9 @@ public:
     fw::TextArea TextArea6{*this, "TextArea6"};
 
     // --- TabPanel1, Log and Directions -----------------------------------------------------------
-    fw::StaticText StaticText22{*this, "StaticText22"};
+    // Each save appends the whole log to the day's file, so the page says so.
+    fw::StaticText StaticText22{*this, "StaticText22",
+        "If one for this date already exists this window's contents will be appended."};
     fw::TextArea EditField2{*this, "EditField2"};
     fw::PushButton PushButton3{*this, "PushButton3", "Save"};
     fw::TextArea EditField10{*this, "EditField10"};

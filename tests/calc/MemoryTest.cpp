@@ -161,7 +161,7 @@ TEST_P(Evaluate, ValuesGoBehindTheColonAndTheFormulaStays) {
     EXPECT_EQ(s.w().EditField5.Text(), c.answer) << s.w().EditField2.Text();
     EXPECT_EQ(s.desktop().clipboard, c.answer);
     EXPECT_EQ(s.w().EditField4.Text(), c.field);
-    EXPECT_EQ(s.desktop().sounds, *c.setup ? Lines{"claves"} : Lines{});
+    EXPECT_EQ(s.desktop().sounds, *c.setup ? Lines{"claves"} : *c.answer ? Lines{"beep"} : Lines{});
 }
 
 INSTANTIATE_TEST_SUITE_P(Memory, Evaluate, testing::ValuesIn(kEvaluates),

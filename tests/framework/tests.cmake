@@ -1,5 +1,6 @@
 list(APPEND TEST_SOURCES
   framework/ControlsTest.cpp
   framework/FilesTest.cpp
+  framework/NumbersTest.cpp
   framework/XmlRegExTest.cpp
 )

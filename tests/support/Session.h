@@ -28,12 +28,12 @@ inline void InstallShippedData(const std::filesystem::path& home) {
 
 struct Session {
     explicit Session(const std::string& name, bool withData = false)
-        : home(Prepare(name, withData)), console(fw::HomeFolders(home)) {}
+        : home(Prepare(name, withData)), console(fw::HomeFolders(home), false, &shown) {}
     // A home that `prepare(home)` fills before the program starts, e.g. with data files of a
     // test's own under home/"data"/"VLSupport".
     template <class Fill, class = std::enable_if_t<std::is_invocable_v<Fill, const std::filesystem::path&>>>
     Session(const std::string& name, Fill prepare)
-        : home(PrepareWith(name, prepare)), console(fw::HomeFolders(home)) {}
+        : home(PrepareWith(name, prepare)), console(fw::HomeFolders(home), false, &shown) {}
 
     // The scratch home goes with the session, so that test runs leave nothing behind.
     ~Session() {
@@ -61,6 +61,8 @@ struct Session {
     }
 
     std::filesystem::path home;
+    // Message boxes as the console writes them when they come up; before `console`, which writes here.
+    std::ostringstream shown;
     Console console;
     std::string errors;
 

@@ -74,6 +74,7 @@ TEST(Layout, ControlsStartAsCreated) {
     EXPECT_EQ(keys, 36);
     EXPECT_EQ(w.fmt.size(), 22u);
     EXPECT_EQ(w.formnumber, 1);
+    EXPECT_EQ(w.StaticText22.Text(), "If one for this date already exists this window's contents will be appended.");
     for (fw::PopupMenu* adds : {&w.PopupMenu1, &w.PopupMenu3, &w.PopupMenu4}) EXPECT_EQ(adds->Text(), "Optional Adds");
     EXPECT_EQ(w.Width(), 64);
     EXPECT_EQ(w.Height(), 96);
