@@ -24,7 +24,8 @@ Factor checks:
   * every row a->b has its reverse b->a in the same category, and the two factors
     multiply to 1;
   * both sides of the label are units of UNITS below, an independent table of exact
-    definitions in SI base units, and have the same dimension;
+    definitions in SI base units, and have the same dimension; no side uses a name in
+    MISREADABLE;
   * NUMBER is the double nearest to the exact factor that the definitions give, so that
     every row agrees with every other to full double precision.
 
@@ -60,6 +61,17 @@ REQUIRED_CATEGORIES = [
 
 # Rows that the directions of the Convert tab walk the user through.
 REQUIRED_ROWS = [("Power", "hp->W"), ("Time", "hr->s"), ("Area", "ft^2->m^2")]
+
+# Unit names that a reader takes for something else; the table must qualify them.
+MISREADABLE = {
+    "C": "is Celsius in the Temperature rows; write C(coulomb)",
+    "F": "is Fahrenheit in the Temperature rows; write the unit out",
+    "R": "is Rankine in the Temperature rows; write R(roentgen)",
+    "e": "reads as Euler's number; write e(elementary)",
+    "gr": "reads as gram; write grain",
+    "yr": "does not say which year; write yr(Julian)",
+    "u": "reads as the micro prefix; write Da",
+}
 
 NUMBER = r"[0-9]+(?:\.[0-9]+)?(?:[eE][+-]?[0-9]+)?"
 FRAGMENT_RE = re.compile(rf"^([*/])({NUMBER})$")
@@ -137,10 +149,10 @@ def build_units():
     u["hr"] = 60 * u["min"]
     u["day"] = 24 * u["hr"]
     u["wk"] = 7 * u["day"]
-    u["yr"] = D("365.25") * u["day"]  # Julian year, the one the light-year is defined with
+    u["yr(Julian)"] = D("365.25") * u["day"]  # the year the light-year is defined with
     # Speed, and the light-year from it
     u["c"] = 299792458 * m / s
-    u["ly"] = u["c"] * u["yr"]
+    u["ly"] = u["c"] * u["yr(Julian)"]
     u["knot"] = u["nmi"] / u["hr"]
     # Area and volume
     u["ha"] = 10 ** 4 * m ** 2
@@ -167,10 +179,10 @@ def build_units():
     u["st"] = 14 * u["lb"]
     u["ton(US)"] = 2000 * u["lb"]
     u["ton(UK)"] = 2240 * u["lb"]
-    u["gr"] = u["lb"] / 7000
-    u["oz(troy)"] = 480 * u["gr"]
+    u["grain"] = u["lb"] / 7000
+    u["oz(troy)"] = 480 * u["grain"]
     u["ct"] = 200 * u["mg"]
-    u["u"] = D("1.66053906892e-27") * kg  # CODATA 2022
+    u["Da"] = D("1.66053906892e-27") * kg  # CODATA 2022
     # Acceleration and force
     u["g0"] = D("9.80665") * m / s ** 2
     u["N"] = kg * m / s ** 2
@@ -220,12 +232,12 @@ def build_units():
     u["kHz"], u["MHz"], u["GHz"] = 10 ** 3 * u["Hz"], 10 ** 6 * u["Hz"], 10 ** 9 * u["Hz"]
     u["rpm"] = u["rev"] / u["min"]
     # Electric
-    u["C"] = A * s
+    u["C(coulomb)"] = A * s
     u["mA"] = A / 1000
     u["Ah"] = A * u["hr"]
     u["mAh"] = u["mA"] * u["hr"]
-    u["e"] = D("1.602176634e-19") * u["C"]
-    u["eV"] = u["e"].value * u["J"]
+    u["eV"] = D("1.602176634e-19") * u["J"]
+    u["e(elementary)"] = u["eV"] / u["J"] * u["C(coulomb)"]
     u["V"] = u["W"] / A
     u["kV"] = 1000 * u["V"]
     u["ohm"] = u["V"] / A
@@ -244,6 +256,10 @@ def build_units():
 UNITS = build_units()
 
 
+class UnitError(Exception):
+    """A unit expression that cannot be read, or a unit that UNITS lacks or refuses."""
+
+
 def parse_units(text):
     """A unit expression such as "ft*lbf/s" or "m/s^2", read left to right."""
     pieces = re.split(r"([*/])", text)
@@ -254,8 +270,12 @@ def parse_units(text):
             op = piece
             continue
         match = re.fullmatch(r"(.+?)(?:\^([0-9]+))?", piece)
-        if not match or match.group(1) not in UNITS:
-            raise KeyError(piece)
+        if not match:
+            raise UnitError(f"cannot read {piece!r}")
+        if match.group(1) in MISREADABLE:
+            raise UnitError(f"unit {match.group(1)!r} {MISREADABLE[match.group(1)]}")
+        if match.group(1) not in UNITS:
+            raise UnitError(f"unit {match.group(1)!r} is not in UNITS")
         q = UNITS[match.group(1)] ** int(match.group(2) or 1)
         result = q if result is None else (result * q if op == "*" else result / q)
     return result
@@ -429,8 +449,8 @@ def check_factor(name, label, fragment, table, fail):
                  "do not multiply to 1")
     try:
         a, b = parse_units(source), parse_units(target)
-    except KeyError as err:
-        fail(f"{at}: unit {err.args[0]!r} is not in UNITS")
+    except UnitError as err:
+        fail(f"{at}: {err}")
         return
     if a.dims != b.dims:
         fail(f"{at}: {a.dimension()} cannot become {b.dimension()}")
