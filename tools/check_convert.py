@@ -17,15 +17,16 @@ Format checks (what the loader and the conversion paths can cope with):
   * no label twice in a category, no category name twice (names compare without case);
   * "Number" and "Temperature" hold exactly the labels their fixed rules know, and no
     convert attribute (their arithmetic is built in);
-  * every other row has convert="*NUMBER" or "/NUMBER", with NUMBER in the form the script
-    lexer reads: digits, optional "." and digits, optional exponent such as e-19.
+  * every other row has convert="*NUMBER", "/NUMBER" or, for a reciprocal such as
+    L/100km->mpg(US), "^-1*NUMBER", with NUMBER in the form the script lexer reads:
+    digits, optional "." and digits, optional exponent such as e-19.
 
 Factor checks:
-  * every row a->b has its reverse b->a in the same category, and the two factors
-    multiply to 1;
+  * every row a->b has its reverse b->a in the same category: a factor row's factors
+    multiply to 1, a reciprocal row's reverse is the same reciprocal;
   * both sides of the label are units of UNITS below, an independent table of exact
-    definitions in SI base units, and have the same dimension; no side uses a name in
-    MISREADABLE;
+    definitions in SI base units, and have the same dimension (a reciprocal row: opposite
+    dimensions); no side uses a name in MISREADABLE;
   * NUMBER is the double nearest to the exact factor that the definitions give, so that
     every row agrees with every other to full double precision.
 
@@ -74,7 +75,9 @@ MISREADABLE = {
 }
 
 NUMBER = r"[0-9]+(?:\.[0-9]+)?(?:[eE][+-]?[0-9]+)?"
-FRAGMENT_RE = re.compile(rf"^([*/])({NUMBER})$")
+FRAGMENT_RE = re.compile(rf"^(\*|/|\^-1\*)({NUMBER})$")
+NAME_RE = re.compile(r"[A-Za-z0-9.]+(?:\([^()]*\))?")
+EXPONENT_RE = re.compile(r"\^(-?[0-9]+)")
 
 # pi to far more digits than a double holds, so that rounding the exact factors stays exact.
 PI = Fraction("3.14159265358979323846264338327950288419716939937510582097494459230781640629")
@@ -83,7 +86,7 @@ PI = Fraction("3.141592653589793238462643383279502884197169399375105820974944592
 class Q:
     """A quantity: an exact value in SI base units and the exponents of its dimension."""
 
-    DIMS = ("m", "kg", "s", "A", "rad", "bit")
+    DIMS = ("m", "kg", "s", "A", "K", "cd", "rad", "bit")
 
     def __init__(self, value, dims=(0,) * len(DIMS)):
         self.value = Fraction(value)
@@ -100,6 +103,9 @@ class Q:
         if not isinstance(other, Q):
             return Q(self.value / Fraction(other), self.dims)
         return Q(self.value / other.value, tuple(a - b for a, b in zip(self.dims, other.dims)))
+
+    def __rtruediv__(self, other):
+        return Q(Fraction(other) / self.value, tuple(-a for a in self.dims))
 
     def __pow__(self, n):
         return Q(self.value ** n, tuple(a * n for a in self.dims))
@@ -124,12 +130,14 @@ def build_units():
     figures are taken as strings, so that they stay exact.
 
     Angles get a dimension of their own, and Hz and rpm count revolutions per time: that is
-    how rpm->Hz is 1/60 while rpm->rad/s is 2*pi/60.
+    how rpm->Hz is 1/60 while rpm->rad/s is 2*pi/60. The becquerel counts decays per second
+    and has no angle. A mole is a count of entities, N_A of them, so that an energy per
+    particle (eV) and per mole (kJ/mol) compare.
     """
     D = Fraction
-    m, kg, s, A, rad, bit = (_base(i) for i in range(len(Q.DIMS)))
+    m, kg, s, A, K, cd, rad, bit = (_base(i) for i in range(len(Q.DIMS)))
     u = {}
-    u.update(m=m, kg=kg, s=s, A=A, rad=rad, bit=bit)
+    u.update(m=m, kg=kg, s=s, A=A, K=K, cd=cd, rad=rad, bit=bit)
     # Length
     u["km"], u["cm"], u["mm"], u["nm"] = 1000 * m, m / 100, m / 1000, m / 10 ** 9
     u["Angstrom"] = m / 10 ** 10
@@ -138,13 +146,14 @@ def build_units():
     u["in"] = u["ft"] / 12
     u["mil"] = u["in"] / 1000
     u["mi"] = 1760 * u["yd"]
+    u["100km"] = 100 * u["km"]
     u["nmi"] = 1852 * m
     u["ft(US)"] = D(1200, 3937) * m
     u["mi(US)"] = 5280 * u["ft(US)"]
     u["au"] = 149597870700 * m
     u["pc"] = u["au"] * 648000 / PI
     # Time
-    u["ms"] = s / 1000
+    u["ms"], u["us"], u["ns"] = s / 1000, s / 10 ** 6, s / 10 ** 9
     u["min"] = 60 * s
     u["hr"] = 60 * u["min"]
     u["day"] = 24 * u["hr"]
@@ -157,6 +166,7 @@ def build_units():
     # Area and volume
     u["ha"] = 10 ** 4 * m ** 2
     u["acre"] = 4840 * u["yd"] ** 2
+    u["barn"] = m ** 2 / 10 ** 28
     u["L"] = m ** 3 / 1000
     u["mL"] = u["L"] / 1000
     u["gal(US)"] = 231 * u["in"] ** 3
@@ -167,6 +177,7 @@ def build_units():
     u["tbsp(US)"] = u["fl.oz(US)"] / 2
     u["tsp(US)"] = u["tbsp(US)"] / 3
     u["bbl(oil)"] = 42 * u["gal(US)"]
+    u["bu(US)"] = D("2150.42") * u["in"] ** 3
     u["gal(UK)"] = D("4.54609") * u["L"]
     u["pt(UK)"] = u["gal(UK)"] / 8
     u["fl.oz(UK)"] = u["pt(UK)"] / 20
@@ -190,58 +201,105 @@ def build_units():
     u["dyn"] = u["g"] * u["cm"] / s ** 2
     u["lbf"] = u["lb"] * u["g0"]
     u["kgf"] = kg * u["g0"]
+    u["tf(metric)"] = u["t"] * u["g0"]
     u["ozf"] = u["oz"] * u["g0"]
     u["kip"] = 1000 * u["lbf"]
     u["pdl"] = u["lb"] * u["ft"] / s ** 2
     u["slug"] = u["lbf"] * s ** 2 / u["ft"]
     # Pressure
     u["Pa"] = u["N"] / m ** 2
-    u["kPa"] = 1000 * u["Pa"]
+    u["hPa"], u["kPa"], u["MPa"] = 100 * u["Pa"], 1000 * u["Pa"], 10 ** 6 * u["Pa"]
     u["psi"] = u["lbf"] / u["in"] ** 2
+    u["ksi"] = 1000 * u["psi"]
     u["bar"] = 10 ** 5 * u["Pa"]
+    u["mbar"] = u["bar"] / 1000
     u["atm"] = 101325 * u["Pa"]
     u["torr"] = u["atm"] / 760
-    # Conventional mercury column: density 13595.1 kg/m^3 under standard gravity.
-    mercury = D("13595.1") * kg / m ** 3 * u["g0"]
+    # Conventional liquid columns: mercury of 13595.1 kg/m^3, water of 1000 kg/m^3, under
+    # standard gravity.
+    mercury, water = D("13595.1") * kg / m ** 3 * u["g0"], 1000 * kg / m ** 3 * u["g0"]
     u["mmHg"] = mercury * u["mm"]
     u["inHg"] = mercury * u["in"]
+    u["cmH2O"] = water * u["cm"]
+    u["inH2O"] = water * u["in"]
     # Energy and power
     u["J"] = u["N"] * m
-    u["kJ"], u["MJ"] = 1000 * u["J"], 10 ** 6 * u["J"]
+    u["kJ"], u["MJ"], u["GJ"] = 1000 * u["J"], 10 ** 6 * u["J"], 10 ** 9 * u["J"]
     u["erg"] = u["dyn"] * u["cm"]
     u["cal(th)"] = D("4.184") * u["J"]
     u["cal(IT)"] = D("4.1868") * u["J"]
     u["kcal(th)"] = 1000 * u["cal(th)"]
     u["kcal(IT)"] = 1000 * u["cal(IT)"]
-    u["BTU(IT)"] = u["cal(IT)"] * (u["lb"].value / u["g"].value) / D("1.8")
+    u["degF"] = K / D("1.8")  # a temperature difference
+    u["BTU(IT)"] = u["cal(IT)"] / (u["g"] * K) * u["lb"] * u["degF"]
     u["W"] = u["J"] / s
     u["kW"] = 1000 * u["W"]
     u["Wh"] = u["W"] * u["hr"]
     u["kWh"] = u["kW"] * u["hr"]
     u["therm(US)"] = 105480400 * u["J"]
+    u["toe"] = 10 ** 7 * u["kcal(IT)"]  # tonne of oil equivalent
     u["hp"] = 550 * u["ft"] * u["lbf"] / s
     u["hp(metric)"] = 75 * u["kgf"] * m / s
     u["ton(refr)"] = 12000 * u["BTU(IT)"] / u["hr"]
+    # Energies per particle and per mole
+    u["mol"] = Q(D("6.02214076e23"))
+    u["eV"] = D("1.602176634e-19") * u["J"]
+    u["Eh"] = D("4.3597447222060e-18") * u["J"]  # hartree, CODATA 2022
+    # The energy of a photon of that wavenumber, as spectroscopists quote energies.
+    u["cm^-1"] = D("6.62607015e-34") * u["J"] * s * u["c"] / u["cm"]
+    # Viscosity
+    u["P"] = u["g"] / (u["cm"] * s)
+    u["cP"] = u["P"] / 100
+    u["mPa"] = u["Pa"] / 1000
+    u["St"] = u["cm"] ** 2 / s
+    u["cSt"] = u["St"] / 100
     # Angle and frequency
     u["rev"] = 2 * PI * rad
     u["deg"] = u["rev"] / 360
     u["arcmin"] = u["deg"] / 60
     u["arcsec"] = u["arcmin"] / 60
     u["grad"] = u["rev"] / 400
+    u["mrad"] = rad / 1000
     u["Hz"] = u["rev"] / s
     u["kHz"], u["MHz"], u["GHz"] = 10 ** 3 * u["Hz"], 10 ** 6 * u["Hz"], 10 ** 9 * u["Hz"]
     u["rpm"] = u["rev"] / u["min"]
     # Electric
     u["C(coulomb)"] = A * s
-    u["mA"] = A / 1000
+    u["mA"], u["uA"] = A / 1000, A / 10 ** 6
     u["Ah"] = A * u["hr"]
     u["mAh"] = u["mA"] * u["hr"]
-    u["eV"] = D("1.602176634e-19") * u["J"]
     u["e(elementary)"] = u["eV"] / u["J"] * u["C(coulomb)"]
     u["V"] = u["W"] / A
-    u["kV"] = 1000 * u["V"]
+    u["kV"], u["mV"] = 1000 * u["V"], u["V"] / 1000
     u["ohm"] = u["V"] / A
     u["kohm"] = 1000 * u["ohm"]
+    u["uF"] = u["C(coulomb)"] / u["V"] / 10 ** 6
+    u["nF"] = u["uF"] / 1000
+    # Magnetism: flux density and flux in tesla and weber, field strength in A/m.
+    u["T"] = u["V"] * s / m ** 2
+    u["mT"], u["uT"] = u["T"] / 1000, u["T"] / 10 ** 6
+    u["G"] = u["T"] / 10 ** 4
+    u["Wb"] = u["T"] * m ** 2
+    u["Mx"] = u["G"] * u["cm"] ** 2
+    u["Oe"] = 1000 / (4 * PI) * A / m
+    # Radiation
+    u["Bq"] = 1 / s
+    u["MBq"], u["GBq"] = 10 ** 6 * u["Bq"], 10 ** 9 * u["Bq"]
+    u["Ci"] = 37 * u["GBq"]
+    u["mCi"] = u["Ci"] / 1000
+    u["Gy"] = u["J"] / kg
+    u["rad(dose)"] = u["Gy"] / 100
+    u["Sv"] = u["J"] / kg
+    u["uSv"] = u["Sv"] / 10 ** 6
+    u["rem"] = u["Sv"] / 100
+    u["mrem"] = u["rem"] / 1000
+    u["R(roentgen)"] = D("2.58e-4") * u["C(coulomb)"] / kg
+    # Light
+    u["sr"] = rad ** 2
+    u["lx"] = cd * u["sr"] / m ** 2
+    u["fc"] = cd * u["sr"] / u["ft"] ** 2
+    u["ph"] = cd * u["sr"] / u["cm"] ** 2
+    u["fL"] = cd / (PI * u["ft"] ** 2)
     # Data
     u["B"] = 8 * bit
     u["kB"], u["MB"], u["GB"], u["TB"] = (10 ** k * u["B"] for k in (3, 6, 9, 12))
@@ -261,24 +319,44 @@ class UnitError(Exception):
 
 
 def parse_units(text):
-    """A unit expression such as "ft*lbf/s" or "m/s^2", read left to right."""
-    pieces = re.split(r"([*/])", text)
-    result = None
-    op = "*"
-    for i, piece in enumerate(pieces):
-        if i % 2:
-            op = piece
-            continue
-        match = re.fullmatch(r"(.+?)(?:\^([0-9]+))?", piece)
+    """A unit expression such as "ft*lbf/s", "m/s^2" or "W/(m*K)", read left to right."""
+    value, pos = _product(text, 0)
+    if pos != len(text):
+        raise UnitError(f"cannot read {text[pos:]!r}")
+    return value
+
+
+def _product(text, pos):
+    result, pos = _factor(text, pos)
+    while pos < len(text) and text[pos] in "*/":
+        op = text[pos]
+        value, pos = _factor(text, pos + 1)
+        result = result * value if op == "*" else result / value
+    return result, pos
+
+
+def _factor(text, pos):
+    if text.startswith("(", pos):
+        value, pos = _product(text, pos + 1)
+        if not text.startswith(")", pos):
+            raise UnitError(f"unbalanced parentheses in {text!r}")
+        pos += 1
+    else:
+        match = NAME_RE.match(text, pos)
         if not match:
-            raise UnitError(f"cannot read {piece!r}")
-        if match.group(1) in MISREADABLE:
-            raise UnitError(f"unit {match.group(1)!r} {MISREADABLE[match.group(1)]}")
-        if match.group(1) not in UNITS:
-            raise UnitError(f"unit {match.group(1)!r} is not in UNITS")
-        q = UNITS[match.group(1)] ** int(match.group(2) or 1)
-        result = q if result is None else (result * q if op == "*" else result / q)
-    return result
+            raise UnitError(f"cannot read {text[pos:]!r}")
+        name, pos = match.group(), match.end()
+        if text.startswith("^-1", pos) and name + "^-1" in UNITS:  # cm^-1, a unit of its own
+            name, pos = name + "^-1", pos + 3
+        if name in MISREADABLE:
+            raise UnitError(f"unit {name!r} {MISREADABLE[name]}")
+        if name not in UNITS:
+            raise UnitError(f"unit {name!r} is not in UNITS")
+        value = UNITS[name]
+    exponent = EXPONENT_RE.match(text, pos)
+    if exponent:
+        value, pos = value ** int(exponent.group(1)), exponent.end()
+    return value, pos
 
 
 def relative(a, b):
@@ -425,7 +503,7 @@ def parse_fragment(fragment, at, fail):
             fail(f"{at}: {bad!r} in the fragment {fragment!r}")
     match = FRAGMENT_RE.match(fragment)
     if not match:
-        fail(f"{at}: fragment {fragment!r} is not '*NUMBER' or '/NUMBER'")
+        fail(f"{at}: fragment {fragment!r} is not '*NUMBER', '/NUMBER' or '^-1*NUMBER'")
         return None
     number = float(match.group(2))
     if number == 0 or number == float("inf"):
@@ -443,19 +521,32 @@ def check_factor(name, label, fragment, table, fail):
         fail(f"{at}: reverse row {reverse!r} is missing")
     elif table[reverse] is not None:
         back_op, back = table[reverse]
-        product = (number if op == "*" else 1 / number) * (back if back_op == "*" else 1 / back)
-        if relative(product, 1.0) > REVERSE_TOLERANCE:
-            fail(f"{at}: factor {number!r} and that of {reverse!r} ({back!r}) "
-                 "do not multiply to 1")
+        if (op == "^-1*") != (back_op == "^-1*"):
+            fail(f"{at}: a reciprocal row and its reverse {reverse!r} are reciprocals alike")
+        elif op == "^-1*" and number != back:
+            fail(f"{at}: constant {number!r} differs from that of {reverse!r} ({back!r})")
+        elif op != "^-1*":
+            product = (number if op == "*" else 1 / number) * (back if back_op == "*" else 1 / back)
+            if relative(product, 1.0) > REVERSE_TOLERANCE:
+                fail(f"{at}: factor {number!r} and that of {reverse!r} ({back!r}) "
+                     "do not multiply to 1")
     try:
         a, b = parse_units(source), parse_units(target)
     except UnitError as err:
         fail(f"{at}: {err}")
         return
-    if a.dims != b.dims:
-        fail(f"{at}: {a.dimension()} cannot become {b.dimension()}")
-        return
-    expected = float(a.value / b.value if op == "*" else b.value / a.value)
+    if op == "^-1*":
+        # y = K / x: x of a is x*a SI, its reciprocal is 1/(x*a) SI, which is 1/(x*a*b) of b.
+        if a.dims != tuple(-d for d in b.dims):
+            fail(f"{at}: 1/({a.dimension()}) cannot become {b.dimension()}")
+            return
+        exact = 1 / (a.value * b.value)
+    else:
+        if a.dims != b.dims:
+            fail(f"{at}: {a.dimension()} cannot become {b.dimension()}")
+            return
+        exact = a.value / b.value if op == "*" else b.value / a.value
+    expected = float(exact)
     if number != expected:
         fail(f"{at}: factor {number!r}, by definition {expected!r} "
              f"(relative error {relative(number, expected):.2e})")
