@@ -17,28 +17,30 @@ Format checks (what the loader and the conversion paths can cope with):
   * no label twice in a category, no category name twice (names compare without case);
   * "Number" and "Temperature" hold exactly the labels their fixed rules know, and no
     convert attribute (their arithmetic is built in);
-  * every other row has convert="*NUMBER" or "/NUMBER", with NUMBER in the form the script
-    lexer reads: digits, optional "." and digits, optional exponent such as e-19.
+  * every other row has convert="*NUMBER", "/NUMBER" or, for a reciprocal such as
+    L/100km->mpg(US), "^-1*NUMBER", with NUMBER in the form the script lexer reads:
+    digits, optional "." and digits, optional exponent such as e-19.
 
 Factor checks:
-  * every row a->b has its reverse b->a in the same category, and the two factors
-    multiply to 1 within 1e-12 (relative);
-  * every factor agrees with UNITS below, an independent table of the units in SI base
-    units, to 1e-9 (relative), and both sides of the label have the same dimension. Rows
-    in ROUNDED are allowed the looser tolerance given there, with the reason.
+  * every row a->b has its reverse b->a in the same category: a factor row's factors
+    multiply to 1, a reciprocal row's reverse is the same reciprocal;
+  * both sides of the label are units of UNITS below, an independent table of exact
+    definitions in SI base units, and have the same dimension (a reciprocal row: opposite
+    dimensions); no side uses a name in MISREADABLE;
+  * NUMBER is the double nearest to the exact factor that the definitions give, so that
+    every row agrees with every other to full double precision.
 
 Prints the number of rows per category and in total. Exit status: 0 when every check
 passes, 1 when a check fails, 2 on a usage error. Uses the Python standard library only.
 """
 
-import math
 import os
 import re
 import sys
 import xml.etree.ElementTree as ET
+from fractions import Fraction
 
-FACTOR_TOLERANCE = 1e-9
-REVERSE_TOLERANCE = 1e-12
+REVERSE_TOLERANCE = 1e-15
 MAX_SHOWN = 40
 
 # The labels the built-in rules recognise; any other label in these two categories does nothing.
@@ -58,45 +60,52 @@ REQUIRED_CATEGORIES = [
     "Fuel economy", "Number", "Temperature",
 ]
 
-# Rows every version of the table keeps, fragment and all: the worked examples of conversion.
-REQUIRED_ROWS = [
-    ("Power", "hp->W", "*745.7"),
-    ("Time", "hr->s", "*3600"),
-    ("Area", "ft^2->m^2", "*0.09290304"),
-]
+# Rows that the directions of the Convert tab walk the user through.
+REQUIRED_ROWS = [("Power", "hp->W"), ("Time", "hr->s"), ("Area", "ft^2->m^2")]
 
-# (category, label): (relative tolerance, reason).
-ROUNDED = {
-    ("Power", "hp->W"): (1e-6, "745.7 W is the customary figure; 550 ft*lbf/s is 745.69987 W"),
-    ("Power", "W->hp"): (1e-6, "reverse of hp->W, same rounded 745.7"),
-    ("Power", "hp->kW"): (1e-6, "0.7457 kW, kept in step with hp->W"),
-    ("Power", "kW->hp"): (1e-6, "reverse of hp->kW"),
+# Unit names that a reader takes for something else; the table must qualify them.
+MISREADABLE = {
+    "C": "is Celsius in the Temperature rows; write C(coulomb)",
+    "F": "is Fahrenheit in the Temperature rows; write the unit out",
+    "R": "is Rankine in the Temperature rows; write R(roentgen)",
+    "e": "reads as Euler's number; write e(elementary)",
+    "gr": "reads as gram; write grain",
+    "yr": "does not say which year; write yr(Julian)",
+    "u": "reads as the micro prefix; write Da",
 }
 
-NUMBER_RE = re.compile(r"^[0-9]+(\.[0-9]+)?([eE][+-]?[0-9]+)?$")
-FRAGMENT_RE = re.compile(r"^([*/])(.*)$")
+NUMBER = r"[0-9]+(?:\.[0-9]+)?(?:[eE][+-]?[0-9]+)?"
+FRAGMENT_RE = re.compile(rf"^(\*|/|\^-1\*)({NUMBER})$")
+NAME_RE = re.compile(r"[A-Za-z0-9.]+(?:\([^()]*\))?")
+EXPONENT_RE = re.compile(r"\^(-?[0-9]+)")
+
+# pi to far more digits than a double holds, so that rounding the exact factors stays exact.
+PI = Fraction("3.14159265358979323846264338327950288419716939937510582097494459230781640629")
 
 
 class Q:
-    """A quantity: a value in SI base units and the exponents of its dimension."""
+    """A quantity: an exact value in SI base units and the exponents of its dimension."""
 
-    DIMS = ("m", "kg", "s", "A", "rad", "bit")
+    DIMS = ("m", "kg", "s", "A", "K", "cd", "rad", "bit")
 
-    def __init__(self, value, dims=(0, 0, 0, 0, 0, 0)):
-        self.value = float(value)
+    def __init__(self, value, dims=(0,) * len(DIMS)):
+        self.value = Fraction(value)
         self.dims = tuple(dims)
 
     def __mul__(self, other):
         if not isinstance(other, Q):
-            return Q(self.value * other, self.dims)
+            return Q(self.value * Fraction(other), self.dims)
         return Q(self.value * other.value, tuple(a + b for a, b in zip(self.dims, other.dims)))
 
     __rmul__ = __mul__
 
     def __truediv__(self, other):
         if not isinstance(other, Q):
-            return Q(self.value / other, self.dims)
+            return Q(self.value / Fraction(other), self.dims)
         return Q(self.value / other.value, tuple(a - b for a, b in zip(self.dims, other.dims)))
+
+    def __rtruediv__(self, other):
+        return Q(Fraction(other) / self.value, tuple(-a for a in self.dims))
 
     def __pow__(self, n):
         return Q(self.value ** n, tuple(a * n for a in self.dims))
@@ -113,46 +122,52 @@ def _base(index):
 
 
 def build_units():
-    """Units by their own definitions, in SI base units.
+    """Units by their own definitions, exact, in SI base units.
 
     Written from the defining relations (a yard is 0.9144 m, a US gallon 231 in^3, an IT BTU
     is an IT calorie per gram per kelvin times a pound over 1.8) rather than from the factors
-    in the file, so that a wrong factor there cannot hide behind the same slip here.
+    in the file, so that a wrong factor there cannot hide behind the same slip here. Decimal
+    figures are taken as strings, so that they stay exact.
 
     Angles get a dimension of their own, and Hz and rpm count revolutions per time: that is
-    how rpm->Hz is 1/60 while rpm->rad/s is 2*pi/60.
+    how rpm->Hz is 1/60 while rpm->rad/s is 2*pi/60. The becquerel counts decays per second
+    and has no angle. A mole is a count of entities, N_A of them, so that an energy per
+    particle (eV) and per mole (kJ/mol) compare.
     """
-    m, kg, s, A, rad, bit = (_base(i) for i in range(6))
+    D = Fraction
+    m, kg, s, A, K, cd, rad, bit = (_base(i) for i in range(len(Q.DIMS)))
     u = {}
-    u.update(m=m, kg=kg, s=s, A=A, rad=rad, bit=bit)
+    u.update(m=m, kg=kg, s=s, A=A, K=K, cd=cd, rad=rad, bit=bit)
     # Length
-    u["km"], u["cm"], u["mm"], u["um"], u["nm"] = 1e3 * m, 1e-2 * m, 1e-3 * m, 1e-6 * m, 1e-9 * m
-    u["Angstrom"] = 1e-10 * m
-    u["yd"] = 0.9144 * m
+    u["km"], u["cm"], u["mm"], u["nm"] = 1000 * m, m / 100, m / 1000, m / 10 ** 9
+    u["Angstrom"] = m / 10 ** 10
+    u["yd"] = D("0.9144") * m
     u["ft"] = u["yd"] / 3
     u["in"] = u["ft"] / 12
     u["mil"] = u["in"] / 1000
     u["mi"] = 1760 * u["yd"]
+    u["100km"] = 100 * u["km"]
     u["nmi"] = 1852 * m
-    u["ft(US)"] = 1200 / 3937 * m
+    u["ft(US)"] = D(1200, 3937) * m
     u["mi(US)"] = 5280 * u["ft(US)"]
     u["au"] = 149597870700 * m
-    u["pc"] = u["au"] * (648000 / math.pi)
+    u["pc"] = u["au"] * 648000 / PI
     # Time
-    u["ms"] = 1e-3 * s
+    u["ms"], u["us"], u["ns"] = s / 1000, s / 10 ** 6, s / 10 ** 9
     u["min"] = 60 * s
     u["hr"] = 60 * u["min"]
     u["day"] = 24 * u["hr"]
     u["wk"] = 7 * u["day"]
-    u["yr"] = 365.25 * u["day"]  # Julian year, the one the light-year is defined with
+    u["yr(Julian)"] = D("365.25") * u["day"]  # the year the light-year is defined with
     # Speed, and the light-year from it
     u["c"] = 299792458 * m / s
-    u["ly"] = u["c"] * u["yr"]
+    u["ly"] = u["c"] * u["yr(Julian)"]
     u["knot"] = u["nmi"] / u["hr"]
     # Area and volume
-    u["ha"] = 1e4 * m ** 2
+    u["ha"] = 10 ** 4 * m ** 2
     u["acre"] = 4840 * u["yd"] ** 2
-    u["L"] = 1e-3 * m ** 3
+    u["barn"] = m ** 2 / 10 ** 28
+    u["L"] = m ** 3 / 1000
     u["mL"] = u["L"] / 1000
     u["gal(US)"] = 231 * u["in"] ** 3
     u["qt(US)"] = u["gal(US)"] / 4
@@ -162,86 +177,134 @@ def build_units():
     u["tbsp(US)"] = u["fl.oz(US)"] / 2
     u["tsp(US)"] = u["tbsp(US)"] / 3
     u["bbl(oil)"] = 42 * u["gal(US)"]
-    u["gal(UK)"] = 4.54609 * u["L"]
+    u["bu(US)"] = D("2150.42") * u["in"] ** 3
+    u["gal(UK)"] = D("4.54609") * u["L"]
     u["pt(UK)"] = u["gal(UK)"] / 8
     u["fl.oz(UK)"] = u["pt(UK)"] / 20
     # Mass
     u["g"] = kg / 1000
     u["mg"] = u["g"] / 1000
     u["t"] = 1000 * kg
-    u["lb"] = 0.45359237 * kg
+    u["lb"] = D("0.45359237") * kg
     u["oz"] = u["lb"] / 16
     u["st"] = 14 * u["lb"]
     u["ton(US)"] = 2000 * u["lb"]
     u["ton(UK)"] = 2240 * u["lb"]
-    u["gr"] = u["lb"] / 7000
-    u["oz(troy)"] = 480 * u["gr"]
+    u["grain"] = u["lb"] / 7000
+    u["oz(troy)"] = 480 * u["grain"]
     u["ct"] = 200 * u["mg"]
-    u["u"] = 1.66053906892e-27 * kg  # CODATA 2022
+    u["Da"] = D("1.66053906892e-27") * kg  # CODATA 2022
     # Acceleration and force
-    u["g0"] = 9.80665 * m / s ** 2
+    u["g0"] = D("9.80665") * m / s ** 2
     u["N"] = kg * m / s ** 2
     u["kN"] = 1000 * u["N"]
     u["dyn"] = u["g"] * u["cm"] / s ** 2
     u["lbf"] = u["lb"] * u["g0"]
     u["kgf"] = kg * u["g0"]
+    u["tf(metric)"] = u["t"] * u["g0"]
     u["ozf"] = u["oz"] * u["g0"]
     u["kip"] = 1000 * u["lbf"]
     u["pdl"] = u["lb"] * u["ft"] / s ** 2
     u["slug"] = u["lbf"] * s ** 2 / u["ft"]
     # Pressure
     u["Pa"] = u["N"] / m ** 2
-    u["kPa"] = 1000 * u["Pa"]
+    u["hPa"], u["kPa"], u["MPa"] = 100 * u["Pa"], 1000 * u["Pa"], 10 ** 6 * u["Pa"]
     u["psi"] = u["lbf"] / u["in"] ** 2
-    u["bar"] = 1e5 * u["Pa"]
+    u["ksi"] = 1000 * u["psi"]
+    u["bar"] = 10 ** 5 * u["Pa"]
+    u["mbar"] = u["bar"] / 1000
     u["atm"] = 101325 * u["Pa"]
     u["torr"] = u["atm"] / 760
-    # Conventional mercury column: density 13595.1 kg/m^3 under standard gravity.
-    u["mmHg"] = 13595.1 * kg / m ** 3 * u["g0"] * u["mm"]
-    u["inHg"] = 13595.1 * kg / m ** 3 * u["g0"] * u["in"]
+    # Conventional liquid columns: mercury of 13595.1 kg/m^3, water of 1000 kg/m^3, under
+    # standard gravity.
+    mercury, water = D("13595.1") * kg / m ** 3 * u["g0"], 1000 * kg / m ** 3 * u["g0"]
+    u["mmHg"] = mercury * u["mm"]
+    u["inHg"] = mercury * u["in"]
+    u["cmH2O"] = water * u["cm"]
+    u["inH2O"] = water * u["in"]
     # Energy and power
     u["J"] = u["N"] * m
-    u["kJ"] = 1000 * u["J"]
-    u["MJ"] = 1e6 * u["J"]
+    u["kJ"], u["MJ"], u["GJ"] = 1000 * u["J"], 10 ** 6 * u["J"], 10 ** 9 * u["J"]
     u["erg"] = u["dyn"] * u["cm"]
-    u["cal(th)"] = 4.184 * u["J"]
-    u["cal(IT)"] = 4.1868 * u["J"]
+    u["cal(th)"] = D("4.184") * u["J"]
+    u["cal(IT)"] = D("4.1868") * u["J"]
     u["kcal(th)"] = 1000 * u["cal(th)"]
     u["kcal(IT)"] = 1000 * u["cal(IT)"]
-    u["BTU(IT)"] = u["cal(IT)"] * (u["lb"].value / u["g"].value) / 1.8
+    u["degF"] = K / D("1.8")  # a temperature difference
+    u["BTU(IT)"] = u["cal(IT)"] / (u["g"] * K) * u["lb"] * u["degF"]
     u["W"] = u["J"] / s
     u["kW"] = 1000 * u["W"]
     u["Wh"] = u["W"] * u["hr"]
     u["kWh"] = u["kW"] * u["hr"]
     u["therm(US)"] = 105480400 * u["J"]
+    u["toe"] = 10 ** 7 * u["kcal(IT)"]  # tonne of oil equivalent
     u["hp"] = 550 * u["ft"] * u["lbf"] / s
     u["hp(metric)"] = 75 * u["kgf"] * m / s
     u["ton(refr)"] = 12000 * u["BTU(IT)"] / u["hr"]
+    # Energies per particle and per mole
+    u["mol"] = Q(D("6.02214076e23"))
+    u["eV"] = D("1.602176634e-19") * u["J"]
+    u["Eh"] = D("4.3597447222060e-18") * u["J"]  # hartree, CODATA 2022
+    # The energy of a photon of that wavenumber, as spectroscopists quote energies.
+    u["cm^-1"] = D("6.62607015e-34") * u["J"] * s * u["c"] / u["cm"]
+    # Viscosity
+    u["P"] = u["g"] / (u["cm"] * s)
+    u["cP"] = u["P"] / 100
+    u["mPa"] = u["Pa"] / 1000
+    u["St"] = u["cm"] ** 2 / s
+    u["cSt"] = u["St"] / 100
     # Angle and frequency
-    u["rev"] = 2 * math.pi * rad
+    u["rev"] = 2 * PI * rad
     u["deg"] = u["rev"] / 360
     u["arcmin"] = u["deg"] / 60
     u["arcsec"] = u["arcmin"] / 60
     u["grad"] = u["rev"] / 400
+    u["mrad"] = rad / 1000
     u["Hz"] = u["rev"] / s
-    u["kHz"], u["MHz"], u["GHz"] = 1e3 * u["Hz"], 1e6 * u["Hz"], 1e9 * u["Hz"]
+    u["kHz"], u["MHz"], u["GHz"] = 10 ** 3 * u["Hz"], 10 ** 6 * u["Hz"], 10 ** 9 * u["Hz"]
     u["rpm"] = u["rev"] / u["min"]
     # Electric
-    u["C"] = A * s
-    u["mA"] = A / 1000
+    u["C(coulomb)"] = A * s
+    u["mA"], u["uA"] = A / 1000, A / 10 ** 6
     u["Ah"] = A * u["hr"]
     u["mAh"] = u["mA"] * u["hr"]
-    u["e"] = 1.602176634e-19 * u["C"]
-    u["eV"] = u["e"].value * u["J"]
+    u["e(elementary)"] = u["eV"] / u["J"] * u["C(coulomb)"]
     u["V"] = u["W"] / A
-    u["kV"] = 1000 * u["V"]
+    u["kV"], u["mV"] = 1000 * u["V"], u["V"] / 1000
     u["ohm"] = u["V"] / A
     u["kohm"] = 1000 * u["ohm"]
+    u["uF"] = u["C(coulomb)"] / u["V"] / 10 ** 6
+    u["nF"] = u["uF"] / 1000
+    # Magnetism: flux density and flux in tesla and weber, field strength in A/m.
+    u["T"] = u["V"] * s / m ** 2
+    u["mT"], u["uT"] = u["T"] / 1000, u["T"] / 10 ** 6
+    u["G"] = u["T"] / 10 ** 4
+    u["Wb"] = u["T"] * m ** 2
+    u["Mx"] = u["G"] * u["cm"] ** 2
+    u["Oe"] = 1000 / (4 * PI) * A / m
+    # Radiation
+    u["Bq"] = 1 / s
+    u["MBq"], u["GBq"] = 10 ** 6 * u["Bq"], 10 ** 9 * u["Bq"]
+    u["Ci"] = 37 * u["GBq"]
+    u["mCi"] = u["Ci"] / 1000
+    u["Gy"] = u["J"] / kg
+    u["rad(dose)"] = u["Gy"] / 100
+    u["Sv"] = u["J"] / kg
+    u["uSv"] = u["Sv"] / 10 ** 6
+    u["rem"] = u["Sv"] / 100
+    u["mrem"] = u["rem"] / 1000
+    u["R(roentgen)"] = D("2.58e-4") * u["C(coulomb)"] / kg
+    # Light
+    u["sr"] = rad ** 2
+    u["lx"] = cd * u["sr"] / m ** 2
+    u["fc"] = cd * u["sr"] / u["ft"] ** 2
+    u["ph"] = cd * u["sr"] / u["cm"] ** 2
+    u["fL"] = cd / (PI * u["ft"] ** 2)
     # Data
     u["B"] = 8 * bit
     u["kB"], u["MB"], u["GB"], u["TB"] = (10 ** k * u["B"] for k in (3, 6, 9, 12))
     u["KiB"], u["MiB"], u["GiB"] = (2 ** k * u["B"] for k in (10, 20, 30))
-    u["Mbit"] = 1e6 * bit
+    u["Mbit"] = 10 ** 6 * bit
     # Fuel economy
     u["mpg(US)"] = u["mi"] / u["gal(US)"]
     u["mpg(UK)"] = u["mi"] / u["gal(UK)"]
@@ -251,21 +314,49 @@ def build_units():
 UNITS = build_units()
 
 
+class UnitError(Exception):
+    """A unit expression that cannot be read, or a unit that UNITS lacks or refuses."""
+
+
 def parse_units(text):
-    """A unit expression such as "ft*lbf/s" or "m/s^2", read left to right."""
-    pieces = re.split(r"([*/])", text)
-    result = None
-    op = "*"
-    for i, piece in enumerate(pieces):
-        if i % 2:
-            op = piece
-            continue
-        match = re.fullmatch(r"(.+?)(?:\^([0-9]+))?", piece)
-        if not match or match.group(1) not in UNITS:
-            raise KeyError(piece)
-        q = UNITS[match.group(1)] ** int(match.group(2) or 1)
-        result = q if result is None else (result * q if op == "*" else result / q)
-    return result
+    """A unit expression such as "ft*lbf/s", "m/s^2" or "W/(m*K)", read left to right."""
+    value, pos = _product(text, 0)
+    if pos != len(text):
+        raise UnitError(f"cannot read {text[pos:]!r}")
+    return value
+
+
+def _product(text, pos):
+    result, pos = _factor(text, pos)
+    while pos < len(text) and text[pos] in "*/":
+        op = text[pos]
+        value, pos = _factor(text, pos + 1)
+        result = result * value if op == "*" else result / value
+    return result, pos
+
+
+def _factor(text, pos):
+    if text.startswith("(", pos):
+        value, pos = _product(text, pos + 1)
+        if not text.startswith(")", pos):
+            raise UnitError(f"unbalanced parentheses in {text!r}")
+        pos += 1
+    else:
+        match = NAME_RE.match(text, pos)
+        if not match:
+            raise UnitError(f"cannot read {text[pos:]!r}")
+        name, pos = match.group(), match.end()
+        if text.startswith("^-1", pos) and name + "^-1" in UNITS:  # cm^-1, a unit of its own
+            name, pos = name + "^-1", pos + 3
+        if name in MISREADABLE:
+            raise UnitError(f"unit {name!r} {MISREADABLE[name]}")
+        if name not in UNITS:
+            raise UnitError(f"unit {name!r} is not in UNITS")
+        value = UNITS[name]
+    exponent = EXPONENT_RE.match(text, pos)
+    if exponent:
+        value, pos = value ** int(exponent.group(1)), exponent.end()
+    return value, pos
 
 
 def relative(a, b):
@@ -327,8 +418,7 @@ def check_file(path):
 
     counts = []
     seen_names = {}
-    rows = {}  # category -> {label: factor or None}
-    fragments = {}  # (category, label) -> fragment text of the first such row
+    rows = {}  # category -> {label: (operator, number) or None}
     for c_index, category in enumerate(root.findall("Category"), 1):
         names = category.findall("Name")
         if not names:
@@ -357,6 +447,7 @@ def check_file(path):
             at = f"{where}, {label!r}"
             if label in table:
                 fail(f"{at}: label twice; only the first row's fragment would ever be used")
+                continue
             for bad in (";", ":"):
                 if bad in label:
                     fail(f"{at}: {bad!r} in the label")
@@ -368,7 +459,6 @@ def check_file(path):
                 table[label] = None
                 continue
             fragment = sub.get("convert")
-            fragments.setdefault((name, label), fragment)
             if name in FIXED_RULES:
                 if fragment is not None:
                     fail(f"{at}: convert attribute on a row whose arithmetic is built in")
@@ -393,64 +483,73 @@ def check_file(path):
     for name in REQUIRED_CATEGORIES:
         if name not in rows:
             fail(f"Category {name!r} is missing")
-    for name, label, fragment in REQUIRED_ROWS:
-        if (name, label) not in fragments:
+    for name, label in REQUIRED_ROWS:
+        if label not in rows.get(name, {}):
             fail(f"Category {name!r}: row {label!r} is missing")
-        elif fragments[(name, label)] != fragment:
-            fail(f"Category {name!r}, {label!r}: fragment {fragments[(name, label)]!r}, "
-                 f"expected {fragment!r}")
-    for key in ROUNDED:
-        if key[1] not in rows.get(key[0], {}):
-            fail(f"ROUNDED lists {key}, which the file does not have")
 
     for name, table in rows.items():
         if name in FIXED_RULES:
             continue
-        for label, factor in table.items():
-            if factor is None:
-                continue
-            check_factor(name, label, factor, table, fail)
+        for label, fragment in table.items():
+            if fragment is not None:
+                check_factor(name, label, fragment, table, fail)
     return problems, counts
 
 
 def parse_fragment(fragment, at, fail):
+    """(operator, number) of a fragment, or None after reporting what is wrong with it."""
     for bad in (";", ":"):
         if bad in fragment:
             fail(f"{at}: {bad!r} in the fragment {fragment!r}")
     match = FRAGMENT_RE.match(fragment)
-    if not match or not NUMBER_RE.match(match.group(2)):
-        fail(f"{at}: fragment {fragment!r} is not '*NUMBER' or '/NUMBER'")
+    if not match:
+        fail(f"{at}: fragment {fragment!r} is not '*NUMBER', '/NUMBER' or '^-1*NUMBER'")
         return None
     number = float(match.group(2))
-    if not math.isfinite(number) or number == 0:
+    if number == 0 or number == float("inf"):
         fail(f"{at}: fragment {fragment!r} is zero or out of range")
         return None
-    return number if match.group(1) == "*" else 1 / number
+    return match.group(1), number
 
 
-def check_factor(name, label, factor, table, fail):
+def check_factor(name, label, fragment, table, fail):
     at = f"Category {name!r}, {label!r}"
+    op, number = fragment
     source, target = label.split("->")
     reverse = f"{target}->{source}"
     if reverse not in table:
         fail(f"{at}: reverse row {reverse!r} is missing")
-    elif table[reverse] is not None and relative(factor * table[reverse], 1.0) > REVERSE_TOLERANCE:
-        fail(f"{at}: factor {factor!r} and that of {reverse!r} ({table[reverse]!r}) "
-             "do not multiply to 1")
+    elif table[reverse] is not None:
+        back_op, back = table[reverse]
+        if (op == "^-1*") != (back_op == "^-1*"):
+            fail(f"{at}: a reciprocal row and its reverse {reverse!r} are reciprocals alike")
+        elif op == "^-1*" and number != back:
+            fail(f"{at}: constant {number!r} differs from that of {reverse!r} ({back!r})")
+        elif op != "^-1*":
+            product = (number if op == "*" else 1 / number) * (back if back_op == "*" else 1 / back)
+            if relative(product, 1.0) > REVERSE_TOLERANCE:
+                fail(f"{at}: factor {number!r} and that of {reverse!r} ({back!r}) "
+                     "do not multiply to 1")
     try:
         a, b = parse_units(source), parse_units(target)
-    except KeyError as err:
-        fail(f"{at}: unit {err.args[0]!r} is not in UNITS")
+    except UnitError as err:
+        fail(f"{at}: {err}")
         return
-    if a.dims != b.dims:
-        fail(f"{at}: {a.dimension()} cannot become {b.dimension()}")
-        return
-    expected = a.value / b.value
-    tolerance, _ = ROUNDED.get((name, label), (FACTOR_TOLERANCE, ""))
-    error = relative(factor, expected)
-    if error > tolerance:
-        fail(f"{at}: factor {factor!r}, by definition {expected!r} "
-             f"(relative error {error:.2e}, allowed {tolerance:.0e})")
+    if op == "^-1*":
+        # y = K / x: x of a is x*a SI, its reciprocal is 1/(x*a) SI, which is 1/(x*a*b) of b.
+        if a.dims != tuple(-d for d in b.dims):
+            fail(f"{at}: 1/({a.dimension()}) cannot become {b.dimension()}")
+            return
+        exact = 1 / (a.value * b.value)
+    else:
+        if a.dims != b.dims:
+            fail(f"{at}: {a.dimension()} cannot become {b.dimension()}")
+            return
+        exact = a.value / b.value if op == "*" else b.value / a.value
+    expected = float(exact)
+    if number != expected:
+        fail(f"{at}: factor {number!r}, by definition {expected!r} "
+             f"(relative error {relative(number, expected):.2e})")
 
 
 def main(argv):
