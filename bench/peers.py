@@ -71,7 +71,7 @@ def table(title, rows, reference):
 
 def one_shots():
     home = home_with_data()
-    convert = ("set CheckBox2 true\nchoose Convert\nset PopupMenu2 14\nset popconvert 0\n"
+    convert = ("set CheckBox2 true\nchoose Convert\nset PopupMenu2 19\nset popconvert 0\n"
                "drop 2 hp\nget clipboard\n")
     units = shutil.which("units")
     qalc = shutil.which("qalc")

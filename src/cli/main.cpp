@@ -9,6 +9,7 @@
 
 #include "cli/Console.h"
 #include "framework/Folders.h"
+#include "framework/HomeLock.h"
 
 int main(int argc, char** argv) {
     fw::FolderSet folders = fw::DesktopFolders(argv[0]);

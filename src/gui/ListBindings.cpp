@@ -75,6 +75,10 @@ class PopupMenuBinding : public ControlBinding {
 public:
     PopupMenuBinding(fw::PopupMenu& model, QWidget* parent, QPoint origin, QtPlatform& platform)
         : ControlBinding(model, new QComboBox(parent), origin, platform), model_(model) {
+        // A list of dozens of categories or conversions scrolls inside the window instead of
+        // running off the screen, as the style's own pop-up would.
+        combo()->setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
+        combo()->setMaxVisibleItems(14);
         connect(combo(), &QComboBox::activated, this, [this](int row) {
             Deliver([this, row] { model_.SetListIndex(row); });
         });
