@@ -3,7 +3,8 @@ set(REFDATA_CHECK ${PROJECT_SOURCE_DIR}/tools/check_refdata.py)
 set(REFDATA_DIR ${PROJECT_SOURCE_DIR}/data/VLSupport)
 
 add_test(NAME ReferenceData.Physics COMMAND python3 ${REFDATA_CHECK} ${REFDATA_DIR}/physicaldata.txt --quiet
-  "--expect=electron mass=>9.1093837015"
+  --codata ${CMAKE_CURRENT_SOURCE_DIR}/data/codata2022.txt --codata-map ${CMAKE_CURRENT_SOURCE_DIR}/data/codata2022_map.txt
+  "--expect=electron mass=>9.1093837139"
   "--expect=speed light=>299792458"
   "--expect=Planck constant=>6.62607015"
   "--expect=avogadro=>6.02214076"
