@@ -13,6 +13,21 @@ add_test(NAME ReferenceData.Physics COMMAND python3 ${REFDATA_CHECK} ${REFDATA_D
   "--expect=gravitation=>6.674"
   "--expect=element iron=>55.845"
   "--expect=element oganesson=>118"
+  # Element keys are two words, so the pop-up row is the name and two blanks; with shift
+  # held the row alone finds the element and the substance (cast iron) too.
+  "--adds=element=>iron  "
+  "--expect=iron  =>Cast iron"
+  "--expect=iron  =>55.845(2)"
+  # A symbol or an atomic number still finds its element.
+  "--expect=26=>Fe: iron"
+  "--expect=Fe=>Fe: iron"
+  "--expect=element 26=>iron"
+  "--expect=atomic number 92=>uranium"
+  "--expect=aluminum=>26.9815384"
+  "--expect=element gadolinium=>157.249(2)"
+  "--expect=element lutetium=>174.96669(5)"
+  "--expect=element zirconium=>91.222(3)"
+  "--expect=element technetium=>[97]"
   "--expect=Co-60=>5.27"
   "--expect=coal=>"
   "--expect=cast iron=>7.")

@@ -3,7 +3,7 @@
 
 Usage:
     check_refdata.py FILE [--expect "TERM=>SUBSTRING"]... [--summary] [--quiet]
-                          [--codata LISTING --codata-map MAP]
+                          [--adds "PRIMARY=>ROW"]... [--codata LISTING --codata-map MAP]
 
 Checks that the file
   * is ASCII only (no byte above 127, no control characters but tab, CR and LF),
@@ -21,6 +21,12 @@ application's SmartParse does; then an entry is a hit when every blank-separated
 the term occurs in its Key, letter case ignored, or the whole term does) and requires at
 least one hit whose Value contains SUBSTRING (letter case ignored). An empty SUBSTRING
 only requires a hit. The option may be given many times.
+
+--adds "PRIMARY=>ROW" requires that the "Optional Adds" pop-up of the primary term PRIMARY
+offers ROW exactly, trailing blanks included: words 2 to 4 of a cleaned Key, each followed by
+a blank but the last. "--adds=element=>iron  " holds for the Key "Element Iron" alone; the
+Search tab then leaves "element iron  " in the term field, and with shift held searches for
+the row's text alone (give that search as an --expect with the row as its term).
 
 --codata LISTING --codata-map MAP checks the file's CODATA figures against NIST's fixed-column
 listing. MAP has one line per entry whose Value cites CODATA: the Key, a tab, and the listing
@@ -192,6 +198,29 @@ class Checker:
         elif not good:
             self.error('--expect "%s": %d hits for "%s", none with "%s" in its Value' % (wanted, len(hits), reduced, want))
         return len(hits), len(good)
+
+    def adds(self):
+        """Primary term -> pop-up rows, built as the Search tab builds its key summaries."""
+        keys = sorted(clean(k) for _, k, _ in self.entries if k is not None)
+        rows = {}
+        for key in keys:
+            fields = key.split(' ')
+            words = [fields[n] if n < len(fields) else '' for n in (1, 2, 3)]
+            rows.setdefault(fields[0], []).append(' '.join(words))
+        return rows
+
+    def expect_adds(self, wanted):
+        if '=>' not in wanted:
+            self.error('--adds "%s": missing "=>"' % wanted)
+            return
+        primary, row = wanted.split('=>', 1)
+        rows = self.adds().get(primary.lower())
+        if rows is None:
+            self.error('--adds "%s": no primary term "%s"' % (wanted, primary.lower()))
+        elif row not in rows:
+            near = [r for r in rows if r.split(' ')[0] == row.split(' ')[0]]
+            self.error('--adds "%s": the pop-up of "%s" has no row "%s"%s'
+                       % (wanted, primary.lower(), row, ' (it has "%s")' % '", "'.join(near) if near else ''))
 
     def summary(self):
         counts = {}
@@ -383,6 +412,7 @@ def main(argv):
     args = argv[1:]
     path = None
     expects = []
+    adds = []
     want_summary = False
     quiet = False
     codata = None
@@ -409,6 +439,8 @@ def main(argv):
             continue
         if a.startswith('--expect='):
             expects.append(a[len('--expect='):])
+        elif a.startswith('--adds='):
+            adds.append(a[len('--adds='):])
         elif a == '--summary':
             want_summary = True
         elif a == '--quiet':
@@ -444,7 +476,9 @@ def main(argv):
     if checker.entries:
         for wanted in expects:
             results.append((wanted, checker.expect(wanted)))
-    elif expects:
+        for wanted in adds:
+            checker.expect_adds(wanted)
+    elif expects or adds:
         checker.error('no entries to search')
 
     if want_summary and checker.entries:
