@@ -37,7 +37,21 @@ add_test(NAME ReferenceData.Astronomy COMMAND python3 ${REFDATA_CHECK} ${REFDATA
   "--expect=moon mass=>7.34"
   "--expect=earth mass=>5.97"
   "--expect=sun mass=>1.9885"
-  "--expect=star sirius=>-1.4"
+  "--expect=star sirius=>-1.46"
+  # Star keys are two words (three for a two-word name), as element keys are; the Bayer
+  # designation lives in a STAR_DESIGNATION entry that a shifted 'sirius  ' finds too.
+  "--adds=star=>sirius  "
+  "--expect=sirius  =>Alpha Canis Majoris is Sirius"
+  "--expect=star alpha centauri=>Proxima"
+  "--adds=star=>rigil kentaurus "
+  # Every planet answers for its moons, the inner ones too.
+  "--expect=mercury moons=>none"
+  "--expect=venus moons=>none"
+  "--expect=earth moons=>the Moon"
+  "--expect=mars moons=>Phobos"
+  "--expect=jupiter moons=>Ganymede"
+  "--expect=saturn moons=>Titan"
+  "--expect=uranus moons=>Titania"
   "--expect=constellation orion=>"
   "--expect=comet halley=>"
   "--expect=asteroid ceres=>")
