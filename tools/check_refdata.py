@@ -29,7 +29,7 @@ Search tab then leaves "element iron  " in the term field, and with shift held s
 the row's text alone (give that search as an --expect with the row as its term).
 
 --codata LISTING --codata-map MAP checks the file's CODATA figures against NIST's fixed-column
-listing. MAP has one line per entry whose Value cites CODATA: the Key, a tab, and the listing
+listing. MAP has one line per entry whose Value cites a CODATA adjustment ("CODATA 2022"): the Key, a tab, and the listing
 quantities that the Value prints, in the order printed, separated by " | ". An item is a
 quantity's name, optionally followed by "* FACTOR" (printed = listed times FACTOR, for another
 unit or sign), or an expression such as "1 / (4 * pi * {vacuum electric permittivity})", which
@@ -359,8 +359,8 @@ def agrees(printed, want):
 def check_codata(checker, listing, cmap):
     seen = set()
     for index, key, value in checker.entries:
-        if key is None or value is None or 'CODATA' not in value:
-            continue
+        if key is None or value is None or not re.search(r'CODATA (?:19|20)\d\d', value):
+            continue  # only the adjustments of the constants (CODATA 2022, ...) are checked
         where = 'Category %d (Key "%s")' % (index, key)
         if key not in cmap:
             checker.error('%s: cites CODATA but has no line in the CODATA map' % where)
