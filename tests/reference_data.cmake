@@ -30,7 +30,20 @@ add_test(NAME ReferenceData.Physics COMMAND python3 ${REFDATA_CHECK} ${REFDATA_D
   "--expect=element technetium=>[97]"
   "--expect=Co-60=>5.27"
   "--expect=coal=>"
-  "--expect=cast iron=>7.")
+  "--expect=cast iron=>7."
+  # What a student looks up in a handbook.
+  "--expect=speed of sound=>343.2 m/s"
+  "--expect=absolute zero=>-273.15 C"
+  "--expect=specific heat=>4.1813"
+  "--expect=refractive index=>1.3330"
+  "--expect=Young's modulus=>200 GPa"
+  "--expect=electronegativity=>3.98"
+  "--expect=viscosity=>1.002 mPa s"
+  "--expect=thermal conductivity copper=>401"
+  "--expect=resistivity copper=>1.68"
+  "--expect=triple point water=>611.657 Pa"
+  "--expect=enthalpy formation carbon dioxide=>-393.51"
+  "--expect=copper  =>Young's modulus (elastic modulus) of copper")
 add_test(NAME ReferenceData.Astronomy COMMAND python3 ${REFDATA_CHECK} ${REFDATA_DIR}/AstrDataXML.txt --quiet
   "--expect=NEPTUNE MOONS=>Triton"
   "--expect=Galaxy Andromeda=>M31"
@@ -54,7 +67,17 @@ add_test(NAME ReferenceData.Astronomy COMMAND python3 ${REFDATA_CHECK} ${REFDATA
   "--expect=uranus moons=>Titania"
   "--expect=constellation orion=>"
   "--expect=comet halley=>"
-  "--expect=asteroid ceres=>")
+  "--expect=asteroid ceres=>"
+  "--expect=Hubble constant=>67.4"
+  "--expect=light year=>9.4607304725808 x 10^15 m"
+  "--expect=parsec=>3.26156 light years"
+  "--expect=Saturn rings=>Cassini Division"
+  "--expect=black hole=>Sagittarius A*"
+  "--expect=Crab Nebula=>NGC 1952"
+  "--expect=white dwarf=>Chandrasekhar"
+  "--expect=Pleiades=>M45"
+  "--expect=M110=>NGC 205"
+)
 add_test(NAME ReferenceData.Math COMMAND python3 ${REFDATA_CHECK} ${REFDATA_DIR}/Mathformulas.txt --quiet
   "--expect=volume sphere=>4/3"
   "--expect=area circle=>PI*r^2"
@@ -64,4 +87,34 @@ add_test(NAME ReferenceData.Math COMMAND python3 ${REFDATA_CHECK} ${REFDATA_DIR}
   "--expect=kinematics=>"
   "--expect=perimeter=>"
   "--expect=vectors=>"
-  "--expect=algebra quadratic=>")
+  "--expect=algebra quadratic=>"
+  "--expect=derivative=>lim(h->0)"
+  "--expect=integral=>F(b) - F(a)"
+  "--expect=determinant=>a*d - b*c"
+  "--expect=Taylor series=>f(a)"
+  "--expect=golden ratio=>1.6180339887"
+  "--expect=Pythagoras=>c^2 = a^2 + b^2"
+  "--expect=standard deviation=>sqrt"
+  "--expect=eigenvalues=>det(A - lambda*I)")
+
+# One fact, one figure: the Sun, Moon and Earth figures that both files give must be the same.
+add_test(NAME ReferenceData.OneFact COMMAND python3 ${REFDATA_CHECK} ${REFDATA_DIR}/physicaldata.txt --quiet
+  --also ${REFDATA_DIR}/AstrDataXML.txt
+  "--agree=sun gravity=>(2[0-9.]+) (?:g\\b|times)"
+  "--agree=sun mass=>([0-9.]+) x 10\\^30 kg"
+  "--agree=sun radius=>(69[0-9,]+) km"
+  "--agree=sun density=>(1[0-9]{3}) kg"
+  "--agree=sun luminosity=>([0-9.]+) x 10\\^26 W"
+  "--agree=sun temperature=>(5[0-9]{3}) K"
+  "--agree=solar constant=>(13[0-9]+) W"
+  "--agree=earth density=>(55[0-9][0-9]) kg/m\\^3"
+  "--agree=earth mass=>GM = ([0-9.]+) x 10\\^14"
+  "--agree=earth radius equatorial=>(63[0-9.]+) km"
+  "--agree=earth polar=>(635[0-9.]+) km"
+  "--agree=earth volume=>([0-9.]+) x 10\\^12 km"
+  "--agree=earth age=>(4\\.[0-9]+) (?:x 10\\^9|billion)"
+  "--agree=atmosphere=>([0-9.]+) x 10\\^18 kg"
+  "--agree=moon mass=>([0-9.]+) x 10\\^22 kg"
+  "--agree=moon density=>(3[0-9]{3}) kg"
+  "--agree=moon gravity=>(1\\.[0-9]+) m/s"
+  "--agree=moon distance=>(38[0-9],[0-9]+) km")

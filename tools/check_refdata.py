@@ -4,6 +4,7 @@
 Usage:
     check_refdata.py FILE [--expect "TERM=>SUBSTRING"]... [--summary] [--quiet]
                           [--adds "PRIMARY=>ROW"]... [--codata LISTING --codata-map MAP]
+                          [--also FILE2 --agree "TERM=>REGEX"]...
 
 Checks that the file
   * is ASCII only (no byte above 127, no control characters but tab, CR and LF),
@@ -27,6 +28,12 @@ offers ROW exactly, trailing blanks included: words 2 to 4 of a cleaned Key, eac
 a blank but the last. "--adds=element=>iron  " holds for the Key "Element Iron" alone; the
 Search tab then leaves "element iron  " in the term field, and with shift held searches for
 the row's text alone (give that search as an --expect with the row as its term).
+
+--agree "TERM=>REGEX" searches TERM in FILE and in the file named by --also, takes group 1 of
+REGEX from the Value of every hit, and requires one value among them all: one fact, one
+figure, in every entry and file that states it. "sun gravity=>([0-9.]+) (?:g|times)" fails
+when one entry says 27.9 g and another 28.0 times Earth's. A hit that lacks REGEX is ignored,
+but at least two figures must be found.
 
 --codata LISTING --codata-map MAP checks the file's CODATA figures against NIST's fixed-column
 listing. MAP has one line per entry whose Value cites a CODATA adjustment ("CODATA 2022"): the Key, a tab, and the listing
@@ -222,6 +229,25 @@ class Checker:
             self.error('--adds "%s": the pop-up of "%s" has no row "%s"%s'
                        % (wanted, primary.lower(), row, ' (it has "%s")' % '", "'.join(near) if near else ''))
 
+    def agree(self, wanted, other):
+        if '=>' not in wanted:
+            self.error('--agree "%s": missing "=>"' % wanted)
+            return
+        term, pattern = wanted.split('=>', 1)
+        reduced = smart_parse(term)
+        found = []
+        for checker in [self] + ([other] if other else []):
+            for index, key, value in checker.entries:
+                if key is None or value is None or not smart_hit(key, reduced):
+                    continue
+                for m in re.finditer(pattern, value):
+                    found.append((m.group(1), '%s entry %d' % (checker.path.split('/')[-1], index)))
+        figures = sorted(set(f for f, _ in found))
+        if len(found) < 2:
+            self.error('--agree "%s": fewer than two figures found' % wanted)
+        elif len(figures) > 1:
+            self.error('--agree "%s": %s' % (wanted, '; '.join('%s in %s' % f for f in found)))
+
     def summary(self):
         counts = {}
         for _, key, _ in self.entries:
@@ -413,6 +439,8 @@ def main(argv):
     path = None
     expects = []
     adds = []
+    agrees = []
+    also = None
     want_summary = False
     quiet = False
     codata = None
@@ -425,6 +453,13 @@ def main(argv):
                 print('usage: --expect needs "TERM=>SUBSTRING"', file=sys.stderr)
                 return 2
             expects.append(args[i + 1])
+            i += 2
+            continue
+        if a == '--also':
+            if i + 1 >= len(args):
+                print('usage: --also needs a file', file=sys.stderr)
+                return 2
+            also = args[i + 1]
             i += 2
             continue
         if a in ('--codata', '--codata-map'):
@@ -441,6 +476,8 @@ def main(argv):
             expects.append(a[len('--expect='):])
         elif a.startswith('--adds='):
             adds.append(a[len('--adds='):])
+        elif a.startswith('--agree='):
+            agrees.append(a[len('--agree='):])
         elif a == '--summary':
             want_summary = True
         elif a == '--quiet':
@@ -478,7 +515,16 @@ def main(argv):
             results.append((wanted, checker.expect(wanted)))
         for wanted in adds:
             checker.expect_adds(wanted)
-    elif expects or adds:
+        if agrees:
+            other = None
+            if also:
+                other = Checker(also)
+                other.run()
+                for message in other.errors:
+                    checker.error('%s: %s' % (also, message))
+            for wanted in agrees:
+                checker.agree(wanted, other)
+    elif expects or adds or agrees:
         checker.error('no entries to search')
 
     if want_summary and checker.entries:
