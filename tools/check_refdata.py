@@ -15,7 +15,8 @@ Checks that the file
     non-empty text (no element, comment or CDATA section as first child, and no child
     elements at all),
   * has Keys that are one line of words separated by single blanks, with no ':' or ';'
-    in the first four words (those words become the pick lists and "Optional Adds").
+    in the first four words (those words become the pick lists and "Optional Adds"), and
+    no two Keys that offer one and the same "Optional Adds" row.
 
 --expect "TERM=>SUBSTRING" runs the Smart-mode search for TERM (the term is reduced as the
 application's SmartParse does; then an entry is a hit when every blank-separated word of
@@ -155,6 +156,11 @@ class Checker:
             if key is not None:
                 self.check_key(index, key)
             self.entries.append((index, key, value))
+        # Two Keys that offer one pop-up row cannot be told apart on the Search tab.
+        for primary, rows in self.adds().items():
+            for row in sorted(set(r for r in rows if rows.count(r) > 1)):
+                self.error('the pop-up of "%s" offers "%s" more than once: the Keys differ only after '
+                           'their fourth word' % (primary, row))
 
     def check_part(self, index, cat, name):
         where = 'Category %d' % index
