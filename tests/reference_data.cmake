@@ -3,7 +3,8 @@ set(REFDATA_CHECK ${PROJECT_SOURCE_DIR}/tools/check_refdata.py)
 set(REFDATA_DIR ${PROJECT_SOURCE_DIR}/data/VLSupport)
 
 add_test(NAME ReferenceData.Physics COMMAND python3 ${REFDATA_CHECK} ${REFDATA_DIR}/physicaldata.txt --quiet
-  "--expect=electron mass=>9.1093837015"
+  --codata ${CMAKE_CURRENT_SOURCE_DIR}/data/codata2022.txt --codata-map ${CMAKE_CURRENT_SOURCE_DIR}/data/codata2022_map.txt
+  "--expect=electron mass=>9.1093837139"
   "--expect=speed light=>299792458"
   "--expect=Planck constant=>6.62607015"
   "--expect=avogadro=>6.02214076"
@@ -12,19 +13,71 @@ add_test(NAME ReferenceData.Physics COMMAND python3 ${REFDATA_CHECK} ${REFDATA_D
   "--expect=gravitation=>6.674"
   "--expect=element iron=>55.845"
   "--expect=element oganesson=>118"
+  # Element keys are two words, so the pop-up row is the name and two blanks; with shift
+  # held the row alone finds the element and the substance (cast iron) too.
+  "--adds=element=>iron  "
+  "--expect=iron  =>Cast iron"
+  "--expect=iron  =>55.845(2)"
+  # A symbol or an atomic number still finds its element.
+  "--expect=26=>Fe: iron"
+  "--expect=Fe=>Fe: iron"
+  "--expect=element 26=>iron"
+  "--expect=atomic number 92=>uranium"
+  "--expect=aluminum=>26.9815384"
+  "--expect=element gadolinium=>157.249(2)"
+  "--expect=element lutetium=>174.96669(5)"
+  "--expect=element zirconium=>91.222(3)"
+  "--expect=element technetium=>[97]"
   "--expect=Co-60=>5.27"
   "--expect=coal=>"
-  "--expect=cast iron=>7.")
+  "--expect=cast iron=>7."
+  # What a student looks up in a handbook.
+  "--expect=speed of sound=>343.2 m/s"
+  "--expect=absolute zero=>-273.15 C"
+  "--expect=specific heat=>4.1813"
+  "--expect=refractive index=>1.3330"
+  "--expect=Young's modulus=>200 GPa"
+  "--expect=electronegativity=>3.98"
+  "--expect=viscosity=>1.002 mPa s"
+  "--expect=thermal conductivity copper=>401"
+  "--expect=resistivity copper=>1.68"
+  "--expect=triple point water=>611.657 Pa"
+  "--expect=enthalpy formation carbon dioxide=>-393.51"
+  "--expect=copper  =>Young's modulus (elastic modulus) of copper")
 add_test(NAME ReferenceData.Astronomy COMMAND python3 ${REFDATA_CHECK} ${REFDATA_DIR}/AstrDataXML.txt --quiet
   "--expect=NEPTUNE MOONS=>Triton"
   "--expect=Galaxy Andromeda=>M31"
   "--expect=moon mass=>7.34"
   "--expect=earth mass=>5.97"
   "--expect=sun mass=>1.9885"
-  "--expect=star sirius=>-1.4"
+  "--expect=star sirius=>-1.46"
+  # Star keys are two words (three for a two-word name), as element keys are; the Bayer
+  # designation lives in a STAR_DESIGNATION entry that a shifted 'sirius  ' finds too.
+  "--adds=star=>sirius  "
+  "--expect=sirius  =>Alpha Canis Majoris is Sirius"
+  "--expect=star alpha centauri=>Proxima"
+  "--adds=star=>rigil kentaurus "
+  # Every planet answers for its moons, the inner ones too.
+  "--expect=mercury moons=>none"
+  "--expect=venus moons=>none"
+  "--expect=earth moons=>the Moon"
+  "--expect=mars moons=>Phobos"
+  "--expect=jupiter moons=>Ganymede"
+  "--expect=saturn moons=>Titan"
+  "--expect=uranus moons=>Titania"
   "--expect=constellation orion=>"
   "--expect=comet halley=>"
-  "--expect=asteroid ceres=>")
+  "--expect=asteroid ceres=>"
+  "--expect=Hubble constant=>67.4"
+  "--expect=light year=>9.4607304725808 x 10^15 m"
+  "--expect=parsec=>3.26156 light years"
+  "--expect=Saturn rings=>Cassini Division"
+  "--expect=black hole=>Sagittarius A*"
+  "--expect=Crab Nebula=>NGC 1952"
+  "--expect=white dwarf=>Chandrasekhar"
+  "--expect=Pleiades=>M45"
+  "--expect=M110=>NGC 205"
+)
 add_test(NAME ReferenceData.Math COMMAND python3 ${REFDATA_CHECK} ${REFDATA_DIR}/Mathformulas.txt --quiet
   "--expect=volume sphere=>4/3"
   "--expect=area circle=>PI*r^2"
@@ -34,4 +87,34 @@ add_test(NAME ReferenceData.Math COMMAND python3 ${REFDATA_CHECK} ${REFDATA_DIR}
   "--expect=kinematics=>"
   "--expect=perimeter=>"
   "--expect=vectors=>"
-  "--expect=algebra quadratic=>")
+  "--expect=algebra quadratic=>"
+  "--expect=derivative=>lim(h->0)"
+  "--expect=integral=>F(b) - F(a)"
+  "--expect=determinant=>a*d - b*c"
+  "--expect=Taylor series=>f(a)"
+  "--expect=golden ratio=>1.6180339887"
+  "--expect=Pythagoras=>c^2 = a^2 + b^2"
+  "--expect=standard deviation=>sqrt"
+  "--expect=eigenvalues=>det(A - lambda*I)")
+
+# One fact, one figure: the Sun, Moon and Earth figures that both files give must be the same.
+add_test(NAME ReferenceData.OneFact COMMAND python3 ${REFDATA_CHECK} ${REFDATA_DIR}/physicaldata.txt --quiet
+  --also ${REFDATA_DIR}/AstrDataXML.txt
+  "--agree=sun gravity=>(2[0-9.]+) (?:g\\b|times)"
+  "--agree=sun mass=>([0-9.]+) x 10\\^30 kg"
+  "--agree=sun radius=>(69[0-9,]+) km"
+  "--agree=sun density=>(1[0-9]{3}) kg"
+  "--agree=sun luminosity=>([0-9.]+) x 10\\^26 W"
+  "--agree=sun temperature=>(5[0-9]{3}) K"
+  "--agree=solar constant=>(13[0-9]+) W"
+  "--agree=earth density=>(55[0-9][0-9]) kg/m\\^3"
+  "--agree=earth mass=>GM = ([0-9.]+) x 10\\^14"
+  "--agree=earth radius equatorial=>(63[0-9.]+) km"
+  "--agree=earth polar=>(635[0-9.]+) km"
+  "--agree=earth volume=>([0-9.]+) x 10\\^12 km"
+  "--agree=earth age=>(4\\.[0-9]+) (?:x 10\\^9|billion)"
+  "--agree=atmosphere=>([0-9.]+) x 10\\^18 kg"
+  "--agree=moon mass=>([0-9.]+) x 10\\^22 kg"
+  "--agree=moon density=>(3[0-9]{3}) kg"
+  "--agree=moon gravity=>(1\\.[0-9]+) m/s"
+  "--agree=moon distance=>(38[0-9],[0-9]+) km")

@@ -3,6 +3,8 @@
 
 Usage:
     check_refdata.py FILE [--expect "TERM=>SUBSTRING"]... [--summary] [--quiet]
+                          [--adds "PRIMARY=>ROW"]... [--codata LISTING --codata-map MAP]
+                          [--also FILE2 --agree "TERM=>REGEX"]...
 
 Checks that the file
   * is ASCII only (no byte above 127, no control characters but tab, CR and LF),
@@ -13,13 +15,37 @@ Checks that the file
     non-empty text (no element, comment or CDATA section as first child, and no child
     elements at all),
   * has Keys that are one line of words separated by single blanks, with no ':' or ';'
-    in the first four words (those words become the pick lists and "Optional Adds").
+    in the first four words (those words become the pick lists and "Optional Adds"), and
+    no two Keys that offer one and the same "Optional Adds" row.
 
 --expect "TERM=>SUBSTRING" runs the Smart-mode search for TERM (the term is reduced as the
 application's SmartParse does; then an entry is a hit when every blank-separated word of
 the term occurs in its Key, letter case ignored, or the whole term does) and requires at
 least one hit whose Value contains SUBSTRING (letter case ignored). An empty SUBSTRING
 only requires a hit. The option may be given many times.
+
+--adds "PRIMARY=>ROW" requires that the "Optional Adds" pop-up of the primary term PRIMARY
+offers ROW exactly, trailing blanks included: words 2 to 4 of a cleaned Key, each followed by
+a blank but the last. "--adds=element=>iron  " holds for the Key "Element Iron" alone; the
+Search tab then leaves "element iron  " in the term field, and with shift held searches for
+the row's text alone (give that search as an --expect with the row as its term).
+
+--agree "TERM=>REGEX" searches TERM in FILE and in the file named by --also, takes group 1 of
+REGEX from the Value of every hit, and requires one value among them all: one fact, one
+figure, in every entry and file that states it. "sun gravity=>([0-9.]+) (?:g|times)" fails
+when one entry says 27.9 g and another 28.0 times Earth's. A hit that lacks REGEX is ignored,
+but at least two figures must be found.
+
+--codata LISTING --codata-map MAP checks the file's CODATA figures against NIST's fixed-column
+listing. MAP has one line per entry whose Value cites a CODATA adjustment ("CODATA 2022"): the Key, a tab, and the listing
+quantities that the Value prints, in the order printed, separated by " | ". An item is a
+quantity's name, optionally followed by "* FACTOR" (printed = listed times FACTOR, for another
+unit or sign), or an expression such as "1 / (4 * pi * {vacuum electric permittivity})", which
+keeps the relative uncertainty of the one measured quantity that it names. Each
+item must be printed, after the one before it, to the last printed digit: rounded, or cut off
+when the printed number ends in "..."; a printed uncertainty "(NN)" must be the listed one in
+the same last digits, and a "Standard uncertainty +/- U" line must give the first item's. Every
+number in such a Value that carries an uncertainty or ends in "..." must belong to an item.
 
 --summary prints the number of entries under each primary term (first word of the Key,
 lower case, as the pick list shows it).
@@ -30,6 +56,7 @@ Uses the Python standard library only.
 
 import re
 import sys
+from decimal import Decimal, ROUND_DOWN, ROUND_HALF_EVEN, ROUND_HALF_UP, localcontext
 import xml.dom.minidom
 from xml.parsers.expat import ExpatError
 
@@ -129,6 +156,11 @@ class Checker:
             if key is not None:
                 self.check_key(index, key)
             self.entries.append((index, key, value))
+        # Two Keys that offer one pop-up row cannot be told apart on the Search tab.
+        for primary, rows in self.adds().items():
+            for row in sorted(set(r for r in rows if rows.count(r) > 1)):
+                self.error('the pop-up of "%s" offers "%s" more than once: the Keys differ only after '
+                           'their fourth word' % (primary, row))
 
     def check_part(self, index, cat, name):
         where = 'Category %d' % index
@@ -180,6 +212,48 @@ class Checker:
             self.error('--expect "%s": %d hits for "%s", none with "%s" in its Value' % (wanted, len(hits), reduced, want))
         return len(hits), len(good)
 
+    def adds(self):
+        """Primary term -> pop-up rows, built as the Search tab builds its key summaries."""
+        keys = sorted(clean(k) for _, k, _ in self.entries if k is not None)
+        rows = {}
+        for key in keys:
+            fields = key.split(' ')
+            words = [fields[n] if n < len(fields) else '' for n in (1, 2, 3)]
+            rows.setdefault(fields[0], []).append(' '.join(words))
+        return rows
+
+    def expect_adds(self, wanted):
+        if '=>' not in wanted:
+            self.error('--adds "%s": missing "=>"' % wanted)
+            return
+        primary, row = wanted.split('=>', 1)
+        rows = self.adds().get(primary.lower())
+        if rows is None:
+            self.error('--adds "%s": no primary term "%s"' % (wanted, primary.lower()))
+        elif row not in rows:
+            near = [r for r in rows if r.split(' ')[0] == row.split(' ')[0]]
+            self.error('--adds "%s": the pop-up of "%s" has no row "%s"%s'
+                       % (wanted, primary.lower(), row, ' (it has "%s")' % '", "'.join(near) if near else ''))
+
+    def agree(self, wanted, other):
+        if '=>' not in wanted:
+            self.error('--agree "%s": missing "=>"' % wanted)
+            return
+        term, pattern = wanted.split('=>', 1)
+        reduced = smart_parse(term)
+        found = []
+        for checker in [self] + ([other] if other else []):
+            for index, key, value in checker.entries:
+                if key is None or value is None or not smart_hit(key, reduced):
+                    continue
+                for m in re.finditer(pattern, value):
+                    found.append((m.group(1), '%s entry %d' % (checker.path.split('/')[-1], index)))
+        figures = sorted(set(f for f, _ in found))
+        if len(found) < 2:
+            self.error('--agree "%s": fewer than two figures found' % wanted)
+        elif len(figures) > 1:
+            self.error('--agree "%s": %s' % (wanted, '; '.join('%s in %s' % f for f in found)))
+
     def summary(self):
         counts = {}
         for _, key, _ in self.entries:
@@ -190,12 +264,193 @@ class Checker:
         return counts
 
 
+# --- CODATA figures -------------------------------------------------------------------------
+
+PI = Decimal('3.14159265358979323846264338327950288419716939937510')
+
+# A printed figure: 1,079,252,848.8 or 6.67430(15) x 10^-11 or 1.054571817... x 10^-34
+NUMBER = re.compile(r'(?<![\w.\[^])(-?\d[\d,]*(?:\.\d+)?)(\(\d+\))?(\.\.\.)?(?: x 10\^(-?\d+))?')
+
+
+class Listed:
+    """One quantity of NIST's listing: value, uncertainty (None when exact), cut short."""
+
+    def __init__(self, value, uncertainty, cut):
+        self.value = value
+        self.uncertainty = uncertainty
+        self.cut = cut
+
+
+def read_listing(path):
+    """NIST's fixed-column ASCII listing: name in columns 1-60, then value, uncertainty."""
+    listing = {}
+    with open(path, encoding='ascii') as f:
+        for line in f:
+            line = line.rstrip('\n')
+            if len(line) < 61 or line[0] in ' -' or not line[60:].strip():
+                continue
+            name = line[:60].strip()
+            value = line[60:85].strip()
+            uncertainty = line[85:110].strip()
+            try:
+                number = Decimal(value.replace(' ', '').replace('...', '').replace('e', 'E'))
+                unc = None if uncertainty == '(exact)' else Decimal(uncertainty.replace(' ', '').replace('e', 'E'))
+            except ArithmeticError:
+                continue
+            listing[name] = Listed(number, unc, value.endswith('...') or '...' in value)
+    return listing
+
+
+def read_codata_map(path):
+    """Key -> list of items, from lines "Key<TAB>item | item"; '#' starts a comment line."""
+    entries = {}
+    with open(path, encoding='ascii') as f:
+        for n, line in enumerate(f, 1):
+            line = line.rstrip('\n')
+            if not line.strip() or line.startswith('#'):
+                continue
+            if '\t' not in line:
+                raise ValueError('%s:%d: no tab between Key and items' % (path, n))
+            key, items = line.split('\t', 1)
+            entries[key] = [i.strip() for i in items.split(' | ') if i.strip()]
+    return entries
+
+
+class Printed:
+    """A figure as it stands in a Value."""
+
+    def __init__(self, match):
+        self.start = match.start()
+        self.text = match.group(0)
+        digits = match.group(1).replace(',', '')
+        scale = Decimal(1).scaleb(int(match.group(4))) if match.group(4) else Decimal(1)
+        self.value = Decimal(digits) * scale
+        self.place = Decimal(1).scaleb(Decimal(digits).as_tuple().exponent) * scale
+        self.uncertainty = Decimal(match.group(2)[1:-1]) * self.place if match.group(2) else None
+        self.cut = bool(match.group(3))
+
+    @property
+    def is_constant(self):
+        return self.uncertainty is not None or self.cut
+
+
+def expected(item, listing):
+    """(value, uncertainty or None, cut) that an item of the map stands for."""
+    if '{' in item:
+        names = re.findall(r'\{([^}]*)\}', item)
+        for name in names:
+            if name not in listing:
+                raise KeyError(name)
+        expr = re.sub(r'\{([^}]*)\}', lambda m: '_v[%d]' % names.index(m.group(1)), item)
+        if re.sub(r'_v\[\d+\]|\bpi\b|[\d.eE+\-*/() ]', '', expr):
+            raise ValueError('bad expression')
+        expr = re.sub(r'(?<![\w\[])(\d+(?:\.\d+)?(?:[eE][+-]?\d+)?)', r"_D('\1')", expr)
+        with localcontext() as ctx:
+            ctx.prec = 40
+            value = eval(expr, {'__builtins__': {}}, {'_v': [listing[n].value for n in names], '_D': Decimal, 'pi': PI})
+        # A product, quotient or inverse of one measured quantity keeps its relative uncertainty.
+        unc = None
+        measured = [n for n in names if listing[n].uncertainty is not None]
+        if len(set(names)) == 1 and measured:
+            q = listing[measured[0]]
+            unc = abs(q.uncertainty / q.value * value)
+        return value, unc, any(listing[n].cut for n in names), True, None
+    factor = Decimal(1)
+    name = item
+    m = re.match(r'(.*?)\s*\*\s*(-?[\d.]+(?:[eE][+-]?\d+)?)$', item)
+    if m:
+        name, factor = m.group(1), Decimal(m.group(2))
+    q = listing[name]
+    unc = None if q.uncertainty is None else abs(q.uncertainty * factor)
+    return q.value * factor, unc, q.cut, False, abs(Decimal(1).scaleb(q.value.as_tuple().exponent) * factor)
+
+
+def agrees(printed, want):
+    value, unc, cut, derived, listed_place = want
+    place = printed.place
+    if len(printed.value.normalize().as_tuple().digits) < 3 and printed.value != value:
+        return False  # "c^2" or "2 protons" is no rounded constant
+    with localcontext() as ctx:
+        ctx.prec = 60
+        if printed.cut:
+            if unc is not None:
+                return False
+            return printed.value == value.quantize(place, rounding=ROUND_DOWN)
+        if cut and not derived and place <= listed_place:
+            return False  # as many digits as the listing's "..." figure: they must say "..." too
+        if printed.value not in (value.quantize(place, rounding=ROUND_HALF_EVEN),
+                                 value.quantize(place, rounding=ROUND_HALF_UP)):
+            return False
+        if printed.uncertainty is not None:
+            if unc is None:
+                return False
+            return printed.uncertainty == unc.quantize(place, rounding=ROUND_HALF_UP)
+        return True
+
+
+def check_codata(checker, listing, cmap):
+    seen = set()
+    for index, key, value in checker.entries:
+        if key is None or value is None or not re.search(r'CODATA (?:19|20)\d\d', value):
+            continue  # only the adjustments of the constants (CODATA 2022, ...) are checked
+        where = 'Category %d (Key "%s")' % (index, key)
+        if key not in cmap:
+            checker.error('%s: cites CODATA but has no line in the CODATA map' % where)
+            continue
+        seen.add(key)
+        text = value.split('Source:')[0]
+        figures = [Printed(m) for m in NUMBER.finditer(text)]
+        used = set()
+        pos = 0
+        first = None
+        for item in cmap[key]:
+            try:
+                want = expected(item, listing)
+            except (KeyError, ValueError, ArithmeticError, SyntaxError, ZeroDivisionError) as exc:
+                checker.error('%s: map item "%s" cannot be evaluated (%s)' % (where, item, exc))
+                continue
+            found = None
+            for i in range(pos, len(figures)):
+                if i not in used and agrees(figures[i], want):
+                    found = i
+                    break
+            if found is None:
+                checker.error('%s: "%s" = %s is not printed (to the last printed digit) after figure %d'
+                              % (where, item, want[0].normalize(), pos))
+                continue
+            used.add(found)
+            pos = found + 1
+            if item is cmap[key][0]:
+                first = want
+        for i, fig in enumerate(figures):
+            if fig.is_constant and i not in used and not re.match(r'.*\+/- $', text[max(0, fig.start - 4):fig.start]):
+                checker.error('%s: %s has an uncertainty or "..." but no CODATA map item' % (where, fig.text))
+        for m in re.finditer(r'Standard uncertainty \+/- (\S+(?: x 10\^-?\d+)?)', text):
+            if first is None:
+                continue  # the first figure is wrong already, and said so
+            stated = Printed(NUMBER.match(m.group(1)))
+            with localcontext() as ctx:
+                ctx.prec = 60
+                right = first[1] is not None and stated.value == first[1].quantize(stated.place, rounding=ROUND_HALF_UP)
+            if not right:
+                checker.error('%s: "Standard uncertainty +/- %s" is not the uncertainty of its first figure'
+                              % (where, m.group(1)))
+    for key in cmap:
+        if key not in seen:
+            checker.error('CODATA map names Key "%s", which no entry citing CODATA has' % key)
+
+
 def main(argv):
     args = argv[1:]
     path = None
     expects = []
+    adds = []
+    agrees = []
+    also = None
     want_summary = False
     quiet = False
+    codata = None
+    codata_map = None
     i = 0
     while i < len(args):
         a = args[i]
@@ -206,8 +461,29 @@ def main(argv):
             expects.append(args[i + 1])
             i += 2
             continue
+        if a == '--also':
+            if i + 1 >= len(args):
+                print('usage: --also needs a file', file=sys.stderr)
+                return 2
+            also = args[i + 1]
+            i += 2
+            continue
+        if a in ('--codata', '--codata-map'):
+            if i + 1 >= len(args):
+                print('usage: %s needs a file' % a, file=sys.stderr)
+                return 2
+            if a == '--codata':
+                codata = args[i + 1]
+            else:
+                codata_map = args[i + 1]
+            i += 2
+            continue
         if a.startswith('--expect='):
             expects.append(a[len('--expect='):])
+        elif a.startswith('--adds='):
+            adds.append(a[len('--adds='):])
+        elif a.startswith('--agree='):
+            agrees.append(a[len('--agree='):])
         elif a == '--summary':
             want_summary = True
         elif a == '--quiet':
@@ -228,13 +504,33 @@ def main(argv):
         print(__doc__, file=sys.stderr)
         return 2
 
+    if (codata is None) != (codata_map is None):
+        print('--codata and --codata-map go together', file=sys.stderr)
+        return 2
+
     checker = Checker(path)
     checker.run()
+    if codata and checker.entries:
+        try:
+            check_codata(checker, read_listing(codata), read_codata_map(codata_map))
+        except (OSError, ValueError) as exc:
+            checker.error('CODATA check: %s' % exc)
     results = []
     if checker.entries:
         for wanted in expects:
             results.append((wanted, checker.expect(wanted)))
-    elif expects:
+        for wanted in adds:
+            checker.expect_adds(wanted)
+        if agrees:
+            other = None
+            if also:
+                other = Checker(also)
+                other.run()
+                for message in other.errors:
+                    checker.error('%s: %s' % (also, message))
+            for wanted in agrees:
+                checker.agree(wanted, other)
+    elif expects or adds or agrees:
         checker.error('no entries to search')
 
     if want_summary and checker.entries:
