@@ -19,6 +19,14 @@ bool FolderItem::Exists() const {
     return fs::exists(path_, error);
 }
 
+FileStamp FolderItem::Stamp() const {
+    struct stat info {};
+    if (::stat(path_.c_str(), &info) != 0) return {};
+    auto nanoseconds = [](const timespec& time) { return time.tv_sec * 1000000000LL + time.tv_nsec; };
+    return {static_cast<unsigned long long>(info.st_dev), static_cast<unsigned long long>(info.st_ino),
+            static_cast<unsigned long long>(info.st_size), nanoseconds(info.st_mtim), nanoseconds(info.st_ctim)};
+}
+
 bool FolderItem::Directory() const {
     std::error_code error;
     return fs::is_directory(path_, error);

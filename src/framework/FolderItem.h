@@ -18,6 +18,14 @@ using FolderItemRef = Ref<FolderItem>;
 using TextInputStreamRef = Ref<TextInputStream>;
 using TextOutputStreamRef = Ref<TextOutputStream>;
 
+// What tells one version of a file from the next: any write changes at least one of these.
+struct FileStamp {
+    unsigned long long device = 0, inode = 0, size = 0;
+    long long modified = 0, changed = 0;  // nanoseconds
+    bool Known() const { return inode != 0; }
+    bool operator==(const FileStamp&) const = default;
+};
+
 class FolderItem {
 public:
     // A folder the program only reads from (the reference data) lists just what is there: its
@@ -29,6 +37,8 @@ public:
     std::string Name() const { return path_.filename().string(); }
 
     bool Exists() const;
+    // The stamp of the file as it is now; not Known if it is not there.
+    FileStamp Stamp() const;
     bool Directory() const;
     // The item of that name inside this folder: nil when this folder does not exist; an item
     // whose Exists is false when the folder exists and the name does not, or nil for an

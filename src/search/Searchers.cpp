@@ -47,27 +47,20 @@ void Window1::SearchFile(const std::string& term, const char* file, const char* 
         PlayClaves();
         return;
     }
-    TextInputStreamRef in = item->OpenAsTextFile();
-    XmlDocument document(ReplaceLineEndings(in->ReadAll(), EndOfLine));
-    XmlNodeList categories = document.Child(0)->Xql("Category");
-    const int count = categories.Length();
-    std::vector<std::string> keys(static_cast<size_t>(count));
-    for (int index = 0; index < count; ++index)
-        keys[static_cast<size_t>(index)] = Lowercase(categories.Item(index)->Xql("Key").Item(0)->Child(0)->Value());
+    const ReferenceEntries& entries = referenceCache.Load(*item);
     const TermMatcher matcher(term);
     // In Literal mode the word test never fails, so every entry is a hit.
     const std::vector<bool> allWords =
-        RadioButton5.Value() ? matcher.AllWordsIn(keys) : std::vector<bool>(keys.size(), true);
+        RadioButton5.Value() ? matcher.AllWordsIn(entries.keys) : std::vector<bool>(entries.keys.size(), true);
     const std::string tab = "\t";
     const std::string tail = "\t(" + Str(BevelButton1.MenuValue()) + "-";
-    for (int index = 0; index < count; ++index) {
-        const size_t at = static_cast<size_t>(index);
-        if (!allWords[at] && !matcher.TermIn(keys[at])) continue;
+    for (size_t index = 0; index < entries.keys.size(); ++index) {
+        if (!allWords[index] && !matcher.TermIn(entries.keys[index])) continue;
+        if (entries.valueFaults[index]) std::rethrow_exception(entries.valueFaults[index]);
         const std::string& marker = EditField1.Text().empty() ? term : tab;
-        XmlNodeRef category = categories.Item(index);
-        const std::string value = ReplaceLineEndings(category->Xql("Value").Item(0)->Child(0)->Value(), EndOfLine);
         // Appended, not rebuilt: a Literal search lists the whole file.
-        EditField1.AppendText(EndOfLine + marker + ": " + value + tail + Str(index) + ")");
+        EditField1.AppendText(EndOfLine + marker + ": " + entries.values[index] + tail +
+                              Str(static_cast<std::int64_t>(index)) + ")");
     }
 }
 

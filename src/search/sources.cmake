@@ -1,4 +1,5 @@
 list(APPEND CORE_SOURCES
+  search/ReferenceCache.cpp
   search/ReferenceLists.cpp
   search/Searchers.cpp
   search/TermMatcher.cpp

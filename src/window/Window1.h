@@ -13,6 +13,7 @@
 #include "framework/Window.h"
 #include "framework/Xml.h"
 #include "script/RbScript.h"
+#include "search/ReferenceCache.h"
 
 class Window1 : public fw::Window, public script::ScriptContext {
 public:
@@ -47,6 +48,8 @@ public:
     std::vector<std::string> knum3;
     std::vector<std::string> knum4;
     std::vector<std::string> knum5;
+    // The reference files' entries between searches, read anew whenever a file changes.
+    ReferenceCache referenceCache;
 
     // The window's properties by name, as text, for the console and tests.
     bool PropertyText(const std::string& name, std::string& value) const;
