@@ -209,5 +209,17 @@ TEST(Search, DamagedAndMissingFilesEndInAMessage) {
           "<Sky><Category><Key>Sun</Key><Value>yellow dwarf star</Value></Category></Sky>");
     s.Run("drop sun");
     EXPECT_EQ(s.desktop().clipboard, "\nsun: yellow dwarf star\t(4-0)");
+    // Damaged after a good search, it faults at the next one, as a file read anew would.
+    Write(s.home / "data" / "VLSupport" / "AstrDataXML.txt", "<Sky><Category><Value>x</Value></Category></Sky>");
+    s.desktop().messages.clear();
+    s.Run("drop sun");
+    EXPECT_EQ(s.desktop().messages.size(), 1u);
+
+    // No data folder at all is a missing file too, not a fault.
+    Session none("search-none", [](const fs::path&) {});
+    none.desktop().messages.clear();
+    none.Run("choose Math Formulas\ndrop sphere");
+    EXPECT_EQ(none.desktop().clipboard, "Math Formulas file is missing. See log at startup.");
+    EXPECT_EQ(none.desktop().messages, std::vector<std::string>{});
 }
 }  // namespace
