@@ -5,6 +5,7 @@
 #include <QFrame>
 #include <QGroupBox>
 #include <QLabel>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QPixmap>
 #include <QPushButton>
@@ -43,11 +44,27 @@ public:
         button()->setPopupMode(QToolButton::InstantPopup);
         button()->setMenu(new QMenu(button()));
         button()->setToolButtonStyle(Qt::ToolButtonTextOnly);
+        // The small window is usable from the keyboard: the drop-down takes focus, and Space or
+        // Enter open its menu.
+        button()->setFocusPolicy(Qt::StrongFocus);
+        button()->installEventFilter(this);
     }
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == button() && event->type() == QEvent::KeyPress) {
+            const int key = static_cast<QKeyEvent*>(event)->key();
+            if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space) {
+                button()->showMenu();
+                return true;
+            }
+        }
+        if (watched == button() && event->type() == QEvent::Resize) ShowCaption();
+        return ControlBinding::eventFilter(watched, event);
+    }
+
     void Update(fw::Property property) override {
-        if (property == fw::Property::Caption) button()->setText(QString::fromStdString(model_.Caption()));
+        if (property == fw::Property::Caption) ShowCaption();
         if (property != fw::Property::Rows) return;
         QMenu* menu = button()->menu();
         menu->clear();
@@ -58,6 +75,13 @@ protected:
     }
 
 private:
+    // A caption too long for the button shows its beginning, not a middle cut on both sides.
+    void ShowCaption() {
+        const QString caption = QString::fromStdString(model_.Caption());
+        const int room = button()->width() - 10;
+        button()->setText(button()->fontMetrics().elidedText(caption, Qt::ElideRight, room));
+        button()->setToolTip(caption);
+    }
     QToolButton* button() const { return static_cast<QToolButton*>(Widget()); }
     fw::BevelButton& model_;
 };

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QStackedWidget>
 #include <QTabBar>
@@ -23,7 +24,9 @@ public:
         tree()->setRootIsDecorated(false);
         tree()->setUniformRowHeights(true);
         tree()->setSelectionMode(QAbstractItemView::SingleSelection);
-        // Check boxes change only through the model, so a click reaches CellClick first.
+        // Check boxes change only through the model, so a click reaches CellClick first, on the
+        // box or beside it, and Space ticks the current row's box the same way.
+        tree()->installEventFilter(this);
         connect(tree(), &QTreeWidget::itemPressed, this, [this](QTreeWidgetItem* item, int column) {
             const int row = tree()->indexOfTopLevelItem(item);
             if (row >= 0) Deliver([this, row, column] { model_.ClickCell(row, column); });
@@ -31,6 +34,19 @@ public:
     }
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == tree() && event->type() == QEvent::KeyPress &&
+            static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space) {
+            const int row = tree()->indexOfTopLevelItem(tree()->currentItem());
+            for (int column = 0; row >= 0 && column < model_.ColumnCount(); ++column)
+                if (model_.ColumnType(column) == 2) {
+                    Deliver([this, row, column] { model_.ClickCell(row, column); });
+                    return true;
+                }
+        }
+        return ControlBinding::eventFilter(watched, event);
+    }
+
     void Update(fw::Property property) override {
         if (property == fw::Property::Geometry) SizeColumns();
         if (property == fw::Property::Rows) {
@@ -38,6 +54,8 @@ protected:
             QList<QTreeWidgetItem*> items;
             for (int row = 0; row < model_.ListCount(); ++row) {
                 auto* item = new QTreeWidgetItem;
+                // Qt must not tick a box on its own: the model's tick is the only one.
+                item->setFlags(item->flags() & ~Qt::ItemIsUserCheckable);
                 for (int column = 0; column < model_.ColumnCount(); ++column) {
                     item->setText(column, QString::fromStdString(model_.Cell(row, column)));
                     if (model_.ColumnType(column) == 2)

@@ -88,9 +88,6 @@ private:
     QLineEdit* edit() const { return static_cast<QLineEdit*>(Widget()); }
 };
 
-// Lines a growing log keeps on screen: a document line costs far more memory than its text.
-constexpr int kShownLogLines = 2000;
-
 class TextAreaBinding : public TextBinding {
 public:
     TextAreaBinding(fw::TextControl& model, QWidget* parent, QPoint origin, QtPlatform& platform)
@@ -112,14 +109,16 @@ protected:
         switch (property) {
         case fw::Property::Text: {
             const QString text = QString::fromStdString(model_.Text());
-            if (edit()->toPlainText() != text) edit()->setPlainText(text);
+            if (edit()->toPlainText() != text) {
+                edit()->setPlainText(text);
+                // A soft key appends to the field: typing goes on behind what it put there.
+                edit()->moveCursor(QTextCursor::End);
+            }
             break;
         }
         case fw::Property::TextAppended: {
             // The log grows by a line per event: append at the end, never rebuild the document,
             // and keep the appends out of the undo history, which would otherwise hold them all.
-            // The view shows the latest lines only; the whole log stays in the model and is saved from there.
-            if (edit()->maximumBlockCount() == 0) edit()->setMaximumBlockCount(kShownLogLines);
             QTextDocument* document = edit()->document();
             const bool undo = document->isUndoRedoEnabled();
             document->setUndoRedoEnabled(false);
