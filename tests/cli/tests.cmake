@@ -1,3 +1,4 @@
 list(APPEND TEST_SOURCES
   cli/CommandsTest.cpp
+  cli/ScenarioTest.cpp
 )
