@@ -38,6 +38,12 @@ void ControlBinding::ControlChanged(fw::Control&, fw::Property property) {
     --updating_;
 }
 
+void ControlBinding::Quietly(const std::function<void()>& change) {
+    ++updating_;
+    change();
+    --updating_;
+}
+
 void ControlBinding::Deliver(const std::function<void()>& act) {
     ++updating_;
     fw::RunEvent(platform_, act);

@@ -32,6 +32,8 @@ protected:
     // Runs a user's act on the model through the event boundary; model echoes are ignored meanwhile.
     void Deliver(const std::function<void()>& act);
     bool Updating() const { return updating_ > 0; }
+    // Brings a change of the model to the widget later, outside ControlChanged, as quietly.
+    void Quietly(const std::function<void()>& change);
     bool eventFilter(QObject* watched, QEvent* event) override;
     QtPlatform& platform_;
 

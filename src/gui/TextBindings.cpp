@@ -1,11 +1,15 @@
 // One-line and multi-line text fields.
 
+#include <algorithm>
+#include <string_view>
+
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTimer>
 
 #include "framework/Controls.h"
 #include "gui/Bindings.h"
@@ -88,6 +92,31 @@ private:
     QLineEdit* edit() const { return static_cast<QLineEdit*>(Widget()); }
 };
 
+// A line of the log as the view shows it. A dropped text of megabytes would take the view
+// seconds and a gigabyte to lay out: such a line shows its beginning and how long it is, while
+// the log itself keeps it whole, and Save Log writes it whole.
+constexpr size_t kLongestShownLine = 20000;
+
+QString Shown(std::string_view appended) {
+    QString shown;
+    for (size_t begin = 0; begin < appended.size();) {
+        const size_t end = std::min(appended.find('\n', begin), appended.size());
+        std::string_view line = appended.substr(begin, end - begin);
+        const bool cut = line.size() > kLongestShownLine;
+        if (cut) {
+            line = line.substr(0, kLongestShownLine);
+            // Not in the midst of a character: back to the start of the one cut.
+            while (!line.empty() && (static_cast<unsigned char>(appended[begin + line.size()]) & 0xC0) == 0x80)
+                line.remove_suffix(1);
+        }
+        shown += QString::fromUtf8(line.data(), static_cast<qsizetype>(line.size()));
+        if (cut) shown += QStringLiteral(" [... %L1 bytes in all, kept whole in the log]").arg(end - begin);
+        if (end < appended.size()) shown += QLatin1Char('\n');
+        begin = end + 1;
+    }
+    return shown;
+}
+
 class TextAreaBinding : public TextBinding {
 public:
     TextAreaBinding(fw::TextControl& model, QWidget* parent, QPoint origin, QtPlatform& platform)
@@ -107,16 +136,10 @@ public:
 protected:
     void Update(fw::Property property) override {
         switch (property) {
-        case fw::Property::Text: {
-            const QString text = QString::fromStdString(model_.Text());
-            if (edit()->toPlainText() != text) {
-                edit()->setPlainText(text);
-                // A soft key appends to the field: typing goes on behind what it put there.
-                edit()->moveCursor(QTextCursor::End);
-            }
-            break;
-        }
+        case fw::Property::Text: ScheduleText(); break;
         case fw::Property::TextAppended: {
+            // The whole text that is on its way holds this line too.
+            if (textPending_ || textStale_) break;
             // The log grows by a line per event: append at the end, never rebuild the document,
             // and keep the appends out of the undo history, which would otherwise hold them all.
             QTextDocument* document = edit()->document();
@@ -124,7 +147,7 @@ protected:
             document->setUndoRedoEnabled(false);
             QTextCursor end(document);
             end.movePosition(QTextCursor::End);
-            end.insertText(QString::fromUtf8(model_.LastAppended().data(), static_cast<int>(model_.LastAppended().size())));
+            end.insertText(Shown(model_.LastAppended()));
             document->setUndoRedoEnabled(undo);
             edit()->verticalScrollBar()->setValue(edit()->verticalScrollBar()->maximum());
             break;
@@ -138,8 +161,37 @@ protected:
         }
     }
 
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == Widget() && event->type() == QEvent::Show && textStale_) Quietly([this] { ShowText(); });
+        return TextBinding::eventFilter(watched, event);
+    }
+
 private:
+    // A handler may set a text many times, megabytes of a drop among them, before it ends: the
+    // view takes the text the handler left, once, and a hidden view only when it is shown.
+    void ScheduleText() {
+        if (textPending_) return;
+        textPending_ = true;
+        QTimer::singleShot(0, this, [this] {
+            textPending_ = false;
+            Quietly([this] { ShowText(); });
+        });
+    }
+
+    void ShowText() {
+        textStale_ = !edit()->isVisible();
+        if (textStale_) return;
+        // Nobody edits a read-only area, so its long lines may show only their beginning.
+        const QString text = model_.ReadOnly ? Shown(model_.Text()) : QString::fromStdString(model_.Text());
+        if (edit()->toPlainText() == text) return;
+        edit()->setPlainText(text);
+        // A soft key appends to the field: typing goes on behind what it put there.
+        edit()->moveCursor(QTextCursor::End);
+    }
+
     QPlainTextEdit* edit() const { return static_cast<QPlainTextEdit*>(Widget()); }
+    bool textPending_ = false;
+    bool textStale_ = false;
 };
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QMenu>
 #include <QToolButton>
@@ -73,6 +74,7 @@ TEST(RealInput, TypingGoesOnBehindASoftKey) {
     QTest::mouseClick(field->viewport(), Qt::LeftButton);
     QTest::keyClicks(field, "1");
     QTest::mouseClick(plus, Qt::LeftButton);
+    QCoreApplication::processEvents();  // as the event loop does before the next key comes
     QTest::keyClicks(field, "2");
     EXPECT_EQ(s.window.EditField4.Text(), "1+2");
     EXPECT_EQ(field->toPlainText(), "1+2");
