@@ -5,6 +5,9 @@
 
 #include <string.h>
 
+#include <algorithm>
+#include <cstring>
+
 namespace fw {
 
 namespace {
@@ -73,17 +76,19 @@ public:
         } else {
             needle_ = needle;
         }
-        if (HasFoldable(needle_) && Folds(source)) {
-            folded_ = Folded(source);
-            hay_ = folded_;
-        } else {
-            hay_ = source;
+        hay_ = source;
+        if (!needle_.empty() && HasFoldable(needle_) && Folds(source)) {
+            // A long text is searched as if folded, without the copy: megabytes of a drop are
+            // searched for a dozen rewrites, each of which would otherwise fold it anew.
+            streaming_ = source.size() > kLongText;
+            if (!streaming_) hay_ = folded_ = Folded(source);
         }
     }
     // glibc's memmem skips ahead where string_view::find stops at every first byte: long texts
     // full of blanks are searched for blank-led words many times over.
     size_t Find(size_t from) const {
         if (from > hay_.size()) return std::string::npos;
+        if (streaming_) return FindFolding(from);
         const void* at = ::memmem(hay_.data() + from, hay_.size() - from, needle_.data(), needle_.size());
         return at ? static_cast<size_t>(static_cast<const char*>(at) - hay_.data()) : std::string::npos;
     }
@@ -91,10 +96,62 @@ public:
     bool NeedleEmpty() const { return needle_.empty(); }
 
 private:
+    static constexpr size_t kLongText = 1 << 16;
+
+    unsigned char At(size_t i) const { return static_cast<unsigned char>(hay_[i]); }
+
+    // Whether the byte at `i` is the second of a pair that begins with 0xC3, as FoldInPlace
+    // pairs them from the start: it follows an odd run of 0xC3. The run is counted back only to
+    // the place last asked about, so a text of nothing but 0xC3 is still read once.
+    bool SecondByte(size_t i) const {
+        if (i < knownAt_) knownAt_ = 0, knownSecond_ = false;
+        size_t run = 0;
+        while (i - run > knownAt_ && At(i - 1 - run) == 0xC3) ++run;
+        const bool second = i - run > knownAt_ ? run % 2 == 1 : (run % 2 == 1) != knownSecond_;
+        knownAt_ = i;
+        knownSecond_ = second;
+        return second;
+    }
+
+    bool MatchesAt(size_t at) const {
+        bool second = SecondByte(at);
+        for (size_t k = 0; k < needle_.size(); ++k) {
+            const unsigned char c = At(at + k);
+            if ((second ? FoldLatin1(c) : FoldAscii(c)) != static_cast<unsigned char>(needle_[k])) return false;
+            second = !second && c == 0xC3;
+        }
+        return true;
+    }
+
+    // The first match from `from` in the text as folded, found among the bytes that fold to
+    // the needle's first byte.
+    size_t FindFolding(size_t from) const {
+        const unsigned char first = static_cast<unsigned char>(needle_[0]);
+        // The one other byte that can fold to it, under either rule.
+        int other = -1;
+        if ((first >= 'a' && first <= 'z') || (first >= 0xA0 && first <= 0xBE && first != 0xB7)) other = first - 32;
+        const size_t last = hay_.size() - std::min(hay_.size(), needle_.size() - 1);
+        auto next = [&](int byte, size_t at) {
+            const void* found = byte < 0 || at >= last ? nullptr : std::memchr(hay_.data() + at, byte, last - at);
+            return found ? static_cast<size_t>(static_cast<const char*>(found) - hay_.data()) : std::string::npos;
+        };
+        size_t atFirst = next(first, from), atOther = next(other, from);
+        for (;;) {
+            const size_t at = std::min(atFirst, atOther);
+            if (at == std::string::npos) return at;
+            if (MatchesAt(at)) return at;
+            if (atFirst == at) atFirst = next(first, at + 1);
+            if (atOther == at) atOther = next(other, at + 1);
+        }
+    }
+
     std::string foldedNeedle_;
     std::string folded_;
     std::string_view needle_;
     std::string_view hay_;
+    bool streaming_ = false;
+    mutable size_t knownAt_ = 0;
+    mutable bool knownSecond_ = false;
 };
 
 bool IsContinuation(unsigned char c) { return (c & 0xC0) == 0x80; }
