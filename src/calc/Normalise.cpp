@@ -32,7 +32,7 @@ std::string Window1::FrontRewrite(std::string text, bool purge) {
     text = ReplaceAll(std::move(text), " ", "");
     text = ReplaceAll(std::move(text), ",", "");
     if (purge) text = PurgePretty(text);
-    return ReplaceAll(text, "x10", "e");
+    return ReplaceAll(std::move(text), "x10", "e");
 }
 
 std::string Window1::PurgePretty(const std::string& text) {
@@ -78,7 +78,7 @@ void Window1::CalculateRewriteForDrop(std::string text) {
         text = ReplaceAll(std::move(text), "Atan(", "AtanD(");
         text = ReplaceAll(std::move(text), "tan(", "tan((PI/180)*");
     }
-    text = ReplacePi(ReplaceFactorials(text));
+    text = ReplacePi(ReplaceFactorials(std::move(text)));
     EditField1.SetText(text);
     PushButton1.Push();
 }

@@ -35,10 +35,11 @@ void Window1::Event_DropObject(const DragItem* obj, int) {
     const std::string caption = BevelButton1.Caption();
     if (StrEq(caption, "calculate") || StrEq(caption, "convert")) {
         if (InStr(text, " ") > 0) unitWord = NthField(text, " ", 2);
-        text = FrontRewrite(text, CheckBox1.Value());
+        text = FrontRewrite(std::move(text), CheckBox1.Value());
     }
     if (StrEq(caption, "convert") && !StrEq(PopupMenu2.Text(), "Number")) text = Str(Val(text));
-    if (StrEq(caption, "calculate")) CalculateRewriteForDrop(text);
+    // Handed on, not copied: a drop may be megabytes.
+    if (StrEq(caption, "calculate")) CalculateRewriteForDrop(std::move(text));
     else if (StrEq(caption, "convert")) ConvertDrop(text, unitWord);
     else if (IsSearchCaption(caption)) SearchRequest(caption, text, false);
     else PlayClaves();
