@@ -4,12 +4,17 @@
 // The introduction window is passed as its Continue button would pass it; --shift holds the
 // shift key while it opens.
 
+#include <csignal>
 #include <iostream>
 #include <string>
 
 #include "cli/Console.h"
 #include "framework/Folders.h"
 #include "framework/HomeLock.h"
+
+namespace {
+volatile std::sig_atomic_t ended = 0;
+}
 
 int main(int argc, char** argv) {
     fw::FolderSet folders = fw::DesktopFolders(argv[0]);
@@ -52,9 +57,16 @@ int main(int argc, char** argv) {
         if (printLog) std::cerr << console.window.EditField2.Text();
         return delivered ? 0 : 1;
     }
+    // A signal ends the console as `quit` would, so that what quitting writes is written. The
+    // handler only marks it; the read it breaks ends the loop.
+    struct sigaction onSignal {};
+    onSignal.sa_handler = [](int) { ended = 1; };
+    sigemptyset(&onSignal.sa_mask);
+    for (int signal : {SIGTERM, SIGINT, SIGHUP}) ::sigaction(signal, &onSignal, nullptr);
     std::string line;
-    while (std::getline(std::cin, line))
+    while (!ended && std::getline(std::cin, line))
         if (!console.Execute(line, std::cout, std::cerr)) break;
+    if (ended) console.Execute("quit", std::cout, std::cerr);
     if (printLog) std::cerr << console.window.EditField2.Text();
     return 0;
 }
