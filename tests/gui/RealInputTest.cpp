@@ -13,32 +13,12 @@
 #include <QToolButton>
 #include <QTreeWidget>
 
-#include "gui/WindowView.h"
-#include "QuietPlatform.h"
+#include "Screen.h"
 
 namespace {
-struct Screen {
-    Screen() : platform(GuiHome("gui-input", true)), window(platform), view(window, platform) {
-        window.Open();
-        view.show();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(&view));
-    }
-    // Chooses the action and clicks the target, which opens the action's page.
-    void Expand(int action) {
-        window.BevelButton1.Choose(action);
-        QTest::mouseClick(widget<QLabel>("ImageWell1"), Qt::LeftButton);
-    }
-    template <class W>
-    W* widget(const char* name) {
-        return qobject_cast<W*>(view.BindingFor(name)->Widget());
-    }
-    QuietPlatform platform;
-    Window1 window;
-    WindowView view;
-};
-
 TEST(RealInput, FormulaTicksAreOneStateOnScreenAndInTheModel) {
-    Screen s;
+    Screen s("gui-input");
+    s.Show();
     s.Expand(6);  // Evaluate shows the stored formulas
     for (const char* formula : {"x^2:", "sqrt(x):", "2*x:"}) s.window.Listbox3.AddRow(formula);
     auto* list = s.widget<QTreeWidget>("Listbox3");
@@ -66,7 +46,8 @@ TEST(RealInput, FormulaTicksAreOneStateOnScreenAndInTheModel) {
 }
 
 TEST(RealInput, TypingGoesOnBehindASoftKey) {
-    Screen s;
+    Screen s("gui-input");
+    s.Show();
     s.Expand(0);  // Calculate
     auto* field = s.widget<QPlainTextEdit>("EditField4");
     auto* plus = s.widget<QPushButton>("PushButton16");
@@ -81,7 +62,8 @@ TEST(RealInput, TypingGoesOnBehindASoftKey) {
 }
 
 TEST(RealInput, TheSmallWindowOpensItsMenuFromTheKeyboard) {
-    Screen s;
+    Screen s("gui-input");
+    s.Show();
     auto* actions = s.widget<QToolButton>("BevelButton1");
     ASSERT_TRUE(actions);
     EXPECT_EQ(actions->focusPolicy(), Qt::StrongFocus);

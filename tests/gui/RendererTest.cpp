@@ -21,22 +21,9 @@
 #include "framework/Folders.h"
 #include "gui/QtPlatform.h"
 #include "gui/WindowView.h"
-#include "QuietPlatform.h"
+#include "Screen.h"
 
 namespace {
-struct Screen {
-    Screen() : platform(GuiHome("gui", true)), window(platform), view(window, platform) {
-        window.Open();
-        EXPECT_EQ(platform.messages, std::vector<std::string>{});
-    }
-    template <class W>
-    W* widget(const char* name) {
-        return qobject_cast<W*>(view.BindingFor(name)->Widget());
-    }
-    QuietPlatform platform;
-    Window1 window;
-    WindowView view;
-};
 
 const char* ExpectedClass(fw::Kind kind) {
     switch (kind) {

@@ -5,9 +5,7 @@
 
 #include <sstream>
 
-#include <QTest>
-
-#include "QuietPlatform.h"
+#include "Screen.h"
 #include "WidgetDriver.h"
 #include "support/Scenario.h"
 
@@ -16,19 +14,15 @@ class WidgetScenario : public testing::TestWithParam<Scenario> {};
 
 TEST_P(WidgetScenario, PrintsWhatItExpects) {
     const Scenario& scenario = GetParam();
-    QuietPlatform platform(GuiHome("widgets-" + scenario.name, true));
-    Window1 window(platform);
-    WindowView view(window, platform);
-    Commands commands(window, platform);
-    window.Open();
-    view.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
-    WidgetDriver driver(window, view, commands);
+    Screen screen("widgets-" + scenario.name);
+    screen.Show();
+    Commands commands(screen.window, screen.platform);
+    WidgetDriver driver(screen.window, screen.view, commands);
     std::ostringstream out, err;
     for (const std::string& command : scenario.commands) driver.Execute(command, out, err);
     EXPECT_EQ(out.str(), scenario.expected);
     EXPECT_EQ(err.str(), "");
-    EXPECT_EQ(platform.messages, std::vector<std::string>{});
+    EXPECT_EQ(screen.platform.messages, std::vector<std::string>{});
 }
 
 INSTANTIATE_TEST_SUITE_P(Widgets, WidgetScenario, testing::ValuesIn(AllScenarios()),
