@@ -74,11 +74,16 @@ start_gui() {
   fail "velmora on $home does not answer"
 }
 
-# Waits up to SECONDS for process PID to end: ends_within PID SECONDS.
+# Waits up to SECONDS for process PID, a child of this shell, to end, and sets its exit status
+# in end_status: ends_within PID SECONDS.
 ends_within() {
   local pid=$1 tenths=$(($2 * 10)) _
   for _ in $(seq "$tenths"); do
-    kill -0 "$pid" 2>/dev/null || { wait "$pid" 2>/dev/null || true; return 0; }
+    if ! kill -0 "$pid" 2>/dev/null; then
+      end_status=0
+      wait "$pid" 2>/dev/null || end_status=$?
+      return 0
+    fi
     sleep 0.1
   done
   return 1
