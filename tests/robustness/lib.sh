@@ -11,15 +11,15 @@ scratch=$(mktemp -d /tmp/velmora-robustness.XXXXXX)
 chmod 755 "$scratch"
 started=()   # processes this test started and must end
 mounts=()    # file systems it mounted
-on_exit=()   # further clean-up commands, run first
+on_exit=()   # further clean-up commands, run once those processes have ended
 cleanup() {
   local step pid mount
-  for step in "${on_exit[@]}"; do eval "$step" || true; done
   for pid in "${started[@]}"; do
     kill -CONT "$pid" 2>/dev/null || true
     kill -KILL "$pid" 2>/dev/null || true
     wait "$pid" 2>/dev/null || true
   done
+  for step in "${on_exit[@]}"; do eval "$step" || true; done
   for mount in "${mounts[@]}"; do umount -l "$mount" 2>/dev/null || true; done
   rm -rf "$scratch"
 }
