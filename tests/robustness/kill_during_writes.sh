@@ -39,6 +39,5 @@ left=$(stale)
 [ -z "$left" ] || fail "a start of velmora left these temporary files of dead writers: $left"
 [ -e "$home/app/VLmemory.txt.tmp-$live" ] || fail "a start of velmora removed the temporary file of a running writer"
 [ -e "$home/app/notes.txt.tmp-$dead" ] || fail "a start of velmora removed a file that is not its own"
-"$VELMORA" --home "$home" --quit
-ends_within "$gui_pid" 10 || fail "velmora did not end at --quit"
+quit_gui "$home" "$gui_pid"
 echo "passed: $kind"

@@ -38,8 +38,11 @@ new_home() {
   echo "$home"
 }
 
+# Every start of a program is bounded in time, so that a fault that makes one hang fails the
+# test, with its clean-up, before CTest's timeout ends it without one.
+
 # The console on HOME, commands on standard input.
-cli() { local home=$1; shift; "$VELMORA_CLI" --home "$home" "$@"; }
+cli() { local home=$1; shift; timeout 60 "$VELMORA_CLI" --home "$home" "$@"; }
 
 # The desktop program without a screen, with a run-time folder of the test's own so that its
 # socket meets no other test's.
@@ -50,7 +53,7 @@ mkdir -m 700 "$XDG_RUNTIME_DIR"
 need_gui() { [ -n "${VELMORA:-}" ] || skip "the desktop program is not built"; }
 
 # Runs console commands in the copy that holds HOME: ask HOME COMMANDS [velmora options].
-ask() { local home=$1 commands=$2; shift 2; "$VELMORA" --home "$home" --run "$commands" --wait 10 "$@"; }
+ask() { local home=$1 commands=$2; shift 2; timeout 20 "$VELMORA" --home "$home" --run "$commands" --wait 10 "$@"; }
 
 # Starts the desktop program on HOME (further arguments are passed on), sets gui_pid, and waits
 # until it answers.
@@ -72,6 +75,12 @@ start_gui() {
     sleep 0.1
   done
   fail "velmora on $home does not answer"
+}
+
+# Ends the copy on HOME, process PID, by --quit: quit_gui HOME PID.
+quit_gui() {
+  timeout 20 "$VELMORA" --home "$1" --quit --wait 10 || fail "--quit on $1 failed"
+  ends_within "$2" 10 || fail "velmora on $1 did not end at --quit"
 }
 
 # Waits up to SECONDS for process PID, a child of this shell, to end, and sets its exit status

@@ -14,6 +14,11 @@ cp -r "$VELMORA_DATA/VLSupport" "$VELMORA_DATA/../resources" "$install/share/vel
 cp "$here/squatter.py" "$install/"
 chmod -R a+rX "$install"
 
+# Users of this test that a run ended without its clean-up left behind.
+while IFS=: read -r user _ _ _ _ folder _; do
+  [[ $user =~ ^vlm[ab][0-9]+$ && $folder == /tmp/velmora-robustness.* ]] && ! pgrep -u "$user" >/dev/null \
+    && userdel "$user"
+done < <(cat /etc/passwd)
 a=vlma$$ b=vlmb$$
 for user in "$a" "$b"; do
   useradd --no-create-home --home-dir "$scratch/$user" --shell /bin/sh --user-group "$user" \
@@ -30,7 +35,7 @@ chown -R "$a:$a" "$homeA"
 # started in the background is the program itself.
 as() { echo setpriv --reuid="$1" --regid="$1" --init-groups env -i PATH=/usr/bin:/bin; }
 envA=(HOME="$scratch/$a" XDG_RUNTIME_DIR="$runA" QT_QPA_PLATFORM=offscreen)
-velmoraA() { $(as "$a") "${envA[@]}" "$install/bin/velmora" "$@"; }
+velmoraA() { timeout 20 $(as "$a") "${envA[@]}" "$install/bin/velmora" "$@"; }
 startA() {  # startA HOME: A's copy on HOME, in pidA once it holds the home
   $(as "$a") "${envA[@]}" "$install/bin/velmora" --home "$1" >>"$scratch/$a.out" 2>&1 &
   pidA=$!
@@ -71,6 +76,7 @@ done
 # 3. B's traps: the old shared place under A's uid, and in B's own open folder the name A's copy uses.
 install -d -m 755 -o "$b" -g "$b" "$scratch/$b/open"
 old_place=/tmp/velmora-$ua-$(printf %s "$homeA" | md5sum | cut -c1-16)
+rm -f "$old_place" "/tmp/velmora-$ua"   # left by an earlier holder of this uid
 on_exit+=("rm -f $old_place /tmp/velmora-$ua")
 squat "$old_place" "/tmp/velmora-$ua" "$scratch/$b/open/$name"
 
@@ -109,8 +115,7 @@ velmoraA --home "$homeA" --drop 'my-secret' --wait 2 2>"$scratch/err" || status=
 nothing_received "a socket of B's where A looks"
 chown "$a" "$socketA"
 status=0
-timeout 20 $(as "$a") "${envA[@]}" "$install/bin/velmora" --home "$homeA" --drop 'my-secret' --wait 5 \
-  2>"$scratch/err" || status=$?
+velmoraA --home "$homeA" --drop 'my-secret' --wait 5 2>"$scratch/err" || status=$?
 [ "$status" -eq 1 ] && grep -q 'belongs to another user; nothing was sent' "$scratch/err" \
   || fail "A's start on B's listener in a file of A's: exit $status, $(cat "$scratch/err")"
 grep -v '^connection on ' "$trap_log" > "$scratch/bytes" || true

@@ -48,12 +48,11 @@ ln -s stopped "$scratch/alias"
 n=0
 for spelling in stopped ./stopped/ stopped/../stopped "$home/../stopped" "$home/" alias; do
   n=$((n + 1))
-  (cd "$scratch" && "$VELMORA" --home "$spelling" --drop "$n*11" --wait 10) \
+  (cd "$scratch" && timeout 20 "$VELMORA" --home "$spelling" --drop "$n*11" --wait 10) \
     || fail "a drop on the home spelled $spelling did not reach the copy"
   [ "$(ask "$home" 'get clipboard')" = "$((n * 11)) " ] || fail "the home spelled $spelling reached another copy"
   one_copy "after a drop on the home spelled $spelling"
 done
 
-"$VELMORA" --home "$home" --quit
-ends_within "$gui_pid" 10 || fail "velmora did not end at --quit"
+quit_gui "$home" "$gui_pid"
 echo "passed: second starts"

@@ -9,7 +9,7 @@ doubling() { python3 -c "import sys; sys.stdout.write('1\nDim\ts\tAs\tString\t=\
 
 text=$(doubling 40)
 status=0
-(ulimit -v 1048576 && exec python3 "$here/measure.py" "$scratch/figures" "$VELMORA_CLI" --home "$home" --log "$text") \
+(ulimit -v 1048576 && exec timeout 60 python3 "$here/measure.py" "$scratch/figures" "$VELMORA_CLI" --home "$home" --log "$text") \
   >"$scratch/out" 2>"$scratch/log" || status=$?
 [ "$status" -le 1 ] || fail "forty doublings ended velmora-cli with status $status: $(tail -c 300 "$scratch/log")"
 [ "$(tail -n 1 "$scratch/log")" = "ERROR: 109" ] || fail "the log after forty doublings ends: $(tail -c 300 "$scratch/log")"
@@ -17,6 +17,6 @@ status=0
 note "forty doublings (${#text} bytes), under ulimit -v 1048576: $(cat "$scratch/figures")"
 
 text=$(doubling 20)
-answer=$(ulimit -v 1048576 && "$VELMORA_CLI" --home "$home" "$text") || fail "twenty doublings gave no answer"
+answer=$(ulimit -v 1048576 && cli "$home" "$text") || fail "twenty doublings gave no answer"
 [ "$answer" = "1 " ] || fail "twenty doublings answered '$answer'"
 echo "passed: string doubling"

@@ -17,7 +17,7 @@ end_by() {
     # A folder where the preferences go: Save Preferences puts up its message box and the
     # --run that pressed it waits for the box.
     mkdir "$home/prefs/VL3Preferences"
-    "$VELMORA" --home "$home" --run "push PushButton42" --wait 30 >/dev/null 2>&1 &
+    timeout 40 "$VELMORA" --home "$home" --run "push PushButton42" --wait 30 >/dev/null 2>&1 &
     started+=($!)
     local up=""
     for _ in $(seq 20); do
