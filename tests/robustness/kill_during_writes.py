@@ -235,6 +235,11 @@ def main():
         writer.sync()
         durations.append(time.monotonic() - start)
         writer.finish()
+        try:
+            if target.outcome() != "new":
+                raise AssertionError("the file is unchanged")
+        except AssertionError as fault:
+            sys.exit(f"FAILED: a write without a kill: {fault}")
         if isinstance(target, Log) and not target.old:
             target.old = target.files()  # one whole save stands in the file from now on
         target.reset()
