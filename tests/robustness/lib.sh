@@ -24,6 +24,7 @@ cleanup() {
   rm -rf "$scratch"
 }
 trap cleanup EXIT
+trap 'exit 143' TERM INT HUP
 
 fail() { echo "FAILED: $*" >&2; exit 1; }
 skip() { echo "SKIPPED: $*"; exit 77; }
