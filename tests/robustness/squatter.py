@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
-"""Another user's trap: listens on unix sockets at the given paths and records every connection
-and every byte received in LOG, one line each. Anyone may connect (mode 0777).
+"""Another user's trap: listens on unix sockets at the given paths and records in LOG, a line
+each, every connection, every byte received, and every end of a connection. Anyone may
+connect (mode 0777).
   squatter.py LOG PATH..."""
 import os
 import selectors
@@ -27,6 +28,7 @@ with open(log_path, "a") as log:
             if data:
                 log.write(f"received on {key.data[0]}: {data!r}\n")
             else:
+                log.write(f"closed on {key.data[0]}\n")
                 selector.unregister(key.fileobj)
                 key.fileobj.close()
             log.flush()
