@@ -12,6 +12,8 @@ packages=(
   # the end-to-end test: a real drag from a second X client, the X clipboard read back
   xdotool xclip x11-utils
   python3
+  # the robustness tests: pgrep tells which copies run
+  procps
   # packaging: the .deb (dpkg-shlibdeps finds its run-time dependencies) and its desktop files' checks
   dpkg-dev fakeroot file desktop-file-utils appstream
 )
