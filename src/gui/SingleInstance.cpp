@@ -117,7 +117,8 @@ InstanceReply InstanceReply::Decode(const QByteArray& bytes) {
     return {bytes.left(end) == "ok", end >= 0 ? bytes.mid(end + 1) : QByteArray()};
 }
 
-int HandOver(const std::string& socketPath, const InstanceRequest& request, int waitSeconds, long holder) {
+int HandOver(const std::string& socketPath, const InstanceRequest& request, int waitSeconds, long holder,
+             const std::function<bool()>& takeHome) {
     const Clock::time_point deadline = Clock::now() + std::chrono::seconds(waitSeconds);
     bool told = false;
     for (;;) {
@@ -141,7 +142,9 @@ int HandOver(const std::string& socketPath, const InstanceRequest& request, int 
             }
             break;
         }
-        // The copy that holds the home may still be on its way to listening.
+        // The copy that holds the home may still be on its way to listening, or may have been a
+        // start like this one that held it for a moment and is gone: then the home is free.
+        if (takeHome()) return kHomeTaken;
         if (MillisecondsLeft(deadline) <= 0) break;
         std::this_thread::sleep_for(std::chrono::milliseconds(100));
     }
@@ -155,7 +158,19 @@ int HandOver(const std::string& socketPath, const InstanceRequest& request, int 
 namespace {
 // A request waits while a message box is up: it would otherwise run inside the box's own loop,
 // in the midst of the handler that showed it. The sender waits as for any busy copy.
+// A sender whose wait ran out (while this copy was stopped or busy) has closed its end and told
+// its user that nothing was done: what it asked is then not done behind its back.
+bool SenderGone(QLocalSocket* socket) {
+    char byte = 0;
+    return socket->state() != QLocalSocket::ConnectedState ||
+           ::recv(static_cast<int>(socket->socketDescriptor()), &byte, 1, MSG_PEEK | MSG_DONTWAIT) == 0;
+}
+
 void Answer(QLocalSocket* socket, const SingleInstance::Handler& handler, const InstanceRequest& request) {
+    if (SenderGone(socket)) {
+        socket->abort();
+        return;
+    }
     if (QApplication::activeModalWidget()) {
         QTimer::singleShot(200, socket, [socket, handler, request] { Answer(socket, handler, request); });
         return;

@@ -31,8 +31,11 @@ struct InstanceReply {
 
 // Hands `request` to the copy that listens at `socketPath` and holds the home as process
 // `holder`, waiting up to `waitSeconds` for a busy one. Prints the answer and returns the exit
-// status of this start. Needs no display.
-int HandOver(const std::string& socketPath, const InstanceRequest& request, int waitSeconds, long holder);
+// status of this start. Needs no display. While no copy listens it tries `takeHome`, and
+// returns kHomeTaken when that took the home: this start is then the copy.
+constexpr int kHomeTaken = -1;
+int HandOver(const std::string& socketPath, const InstanceRequest& request, int waitSeconds, long holder,
+             const std::function<bool()>& takeHome);
 
 class SingleInstance {
 public:

@@ -102,7 +102,13 @@ int main(int argc, char** argv) {
         lock.emplace(folders.application);
         const std::filesystem::path runtime = PrivateRuntimeFolder();
         if (!runtime.empty()) socketPath = InstanceSocketPath(runtime, folders);
-        if (!lock->Held()) return HandOver(socketPath, RequestOf(options), options.wait, lock->Holder());
+        if (!lock->Held()) {
+            const int status = HandOver(socketPath, RequestOf(options), options.wait, lock->Holder(), [&] {
+                lock.emplace(folders.application);
+                return lock->Held();
+            });
+            if (status != kHomeTaken) return status;
+        }
         fw::RemoveStaleTemporaries(folders);
     }
     if (options.quit) return 0;
