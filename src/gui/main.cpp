@@ -22,6 +22,7 @@
 #include "gui/InstanceAddress.h"
 #include "gui/SingleInstance.h"
 #include "gui/TerminationSignals.h"
+#include "gui/WindowSystem.h"
 #include "gui/WindowView.h"
 #include "shell/Window2.h"
 #include "window/Window1.h"
@@ -64,11 +65,9 @@ InstanceRequest RequestOf(const Options& options) {
 // An empty drop is never made: a shortcut pressed with nothing selected says so instead.
 const char* const kNothingSelected = "velmora: nothing is selected; nothing was dropped\n";
 
-// Qt would abort without a screen to show on; say so and end.
-bool HasDisplay() {
-    for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-        if (const char* value = std::getenv(variable); value && *value) return true;
-    return false;
+std::string Environment(const char* variable) {
+    const char* value = std::getenv(variable);
+    return value ? value : "";
 }
 }  // namespace
 
@@ -81,7 +80,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     if (options.help) {
-        std::fputs(kUsage, stdout);
+        std::fputs(kHelp, stdout);
         return 0;
     }
     if (options.version) {
@@ -110,10 +109,13 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "velmora: no running copy to take the commands\n");
         return 1;
     }
-    if (!HasDisplay()) {
-        std::fprintf(stderr, "velmora: no display to show the window on (DISPLAY and WAYLAND_DISPLAY are unset)\n");
+    // Qt would abort without a display to show on: say so and end.
+    const WindowSystem system = WindowSystem::Choose(options.platform.toStdString(), Environment);
+    if (!system.error.empty()) {
+        std::fprintf(stderr, "velmora: %s\n", system.error.c_str());
         return 1;
     }
+    if (!system.platform.empty()) qputenv("QT_QPA_PLATFORM", QByteArray::fromStdString(system.platform));
 
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Velmora"));

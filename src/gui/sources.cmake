@@ -12,6 +12,7 @@ add_library(velmora_gui STATIC
   gui/SingleInstance.cpp
   gui/TerminationSignals.cpp
   gui/TextBindings.cpp
+  gui/WindowSystem.cpp
   gui/WindowView.cpp
 )
 target_link_libraries(velmora_gui PUBLIC velmora_console Qt6::Widgets Qt6::Multimedia Qt6::Network)

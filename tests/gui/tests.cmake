@@ -1,5 +1,5 @@
 find_package(Qt6 REQUIRED COMPONENTS Test Widgets)
-add_executable(velmora_gui_tests gui/IntroWindowTest.cpp gui/RendererTest.cpp)
+add_executable(velmora_gui_tests gui/IntroWindowTest.cpp gui/RendererTest.cpp gui/WindowSystemTest.cpp)
 target_include_directories(velmora_gui_tests PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(velmora_gui_tests PRIVATE velmora_gui velmora_console Qt6::Test GTest::gtest)
 target_compile_definitions(velmora_gui_tests PRIVATE VELMORA_SHIPPED_DATA_DIR="${PROJECT_SOURCE_DIR}/data")
