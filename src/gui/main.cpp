@@ -48,7 +48,9 @@ void Screenshot(QWidget& view, const QString& file) {
     });
 }
 
+// Brings the window back from the taskbar or another workspace and gives it the focus.
 void Raise(QWidget& view) {
+    view.setWindowState(view.windowState() & ~Qt::WindowMinimized);
     view.show();
     view.raise();
     view.activateWindow();
