@@ -1,8 +1,15 @@
 find_package(Qt6 REQUIRED COMPONENTS Test Widgets)
-add_executable(velmora_gui_tests gui/IntroWindowTest.cpp gui/RendererTest.cpp gui/WindowSystemTest.cpp)
+add_executable(velmora_gui_tests
+  gui/GuiTestMain.cpp
+  gui/IntroWindowTest.cpp
+  gui/RendererTest.cpp
+  gui/WindowFrameTest.cpp
+  gui/WindowSystemTest.cpp)
 target_include_directories(velmora_gui_tests PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(velmora_gui_tests PRIVATE velmora_gui velmora_console Qt6::Test GTest::gtest)
-target_compile_definitions(velmora_gui_tests PRIVATE VELMORA_SHIPPED_DATA_DIR="${PROJECT_SOURCE_DIR}/data")
+target_compile_definitions(velmora_gui_tests PRIVATE
+  VELMORA_SHIPPED_DATA_DIR="${PROJECT_SOURCE_DIR}/data"
+  VELMORA_GUI_SCREENS="${CMAKE_CURRENT_SOURCE_DIR}/gui/screens.json")
 gtest_discover_tests(velmora_gui_tests DISCOVERY_TIMEOUT 60 PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 
 # End to end in a real X server: a drag from a second X client and drops by a second start.
