@@ -1,6 +1,7 @@
 find_package(Qt6 REQUIRED COMPONENTS Test Widgets)
 add_executable(velmora_gui_tests
   gui/GuiTestMain.cpp
+  gui/HiDpiTest.cpp
   gui/IntroWindowTest.cpp
   gui/RendererTest.cpp
   gui/WindowFrameTest.cpp
