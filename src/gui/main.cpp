@@ -10,12 +10,14 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QFile>
+#include <QStyle>
 #include <QTimer>
 
 #include "cli/Commands.h"
 #include "framework/EventBoundary.h"
 #include "framework/Folders.h"
 #include "framework/HomeLock.h"
+#include "gui/FrameStyle.h"
 #include "gui/MenuView.h"
 #include "gui/Options.h"
 #include "gui/QtPlatform.h"
@@ -124,6 +126,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationVersion(QStringLiteral("3.0.0"));
     QApplication::setDesktopFileName(QStringLiteral("org.velmora.Velmora"));
     QApplication::setQuitOnLastWindowClosed(true);
+    QApplication::setStyle(new FrameStyle(QApplication::style()->name()));
     if (options.dropSelection && SelectedText().isEmpty()) {
         std::fputs(kNothingSelected, stderr);
         return 1;

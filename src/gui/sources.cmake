@@ -3,6 +3,7 @@ set(CMAKE_AUTOMOC OFF)
 add_library(velmora_gui STATIC
   gui/ButtonBindings.cpp
   gui/ControlBinding.cpp
+  gui/FrameStyle.cpp
   gui/FullWindowPicture.cpp
   gui/InstanceAddress.cpp
   gui/ListBindings.cpp

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include <QAbstractScrollArea>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QScreen>
@@ -83,4 +84,45 @@ TEST(HiDpiPictures, PicturesMatchTheScreenTheyAreOn) {
     auto* target = qobject_cast<QLabel*>(view.BindingFor("ImageWell1")->Widget());
     EXPECT_EQ(target->pixmap().toImage().convertToFormat(QImage::Format_RGB32),
               Resource("target2@2x.gif").convertToFormat(QImage::Format_RGB32));
+}
+
+// At 1.5 a one-pixel frame falls between device pixels; every list and text area on every page
+// must still show all four edges of its frame.
+TEST(HiDpiFrames, ListsAndTextAreasKeepTheirWholeFrameAtOneAndAHalf) {
+    QuietPlatform platform(GuiHome("frames", true));
+    Window1 window(platform);
+    WindowView view(window, platform);
+    window.Open();
+    view.show();
+    MoveOnto(view, 1.5);
+    window.ImageWell1.FireMouseDown(30, 40);
+    ASSERT_EQ(view.size(), QSize(800, 600));
+    int checked = 0;
+    for (const int left : {0, 1, 2, 3})
+        for (const int right : {0, 1, 2, 3, 4}) {
+            window.TabPanel1.SetValue(left);
+            window.TabPanel2.SetValue(right);
+            const QImage picture = view.grab().toImage().convertToFormat(QImage::Format_RGB32);
+            for (QAbstractScrollArea* area : view.findChildren<QAbstractScrollArea*>()) {
+                if (!area->isVisibleTo(&view)) continue;
+                SCOPED_TRACE(area->objectName().toStdString());
+                const QRect r(area->mapTo(&view, QPoint(0, 0)), area->size());
+                const QColor frame = area->palette().color(QPalette::Mid);
+                // A frame edge shows if a device pixel within one pixel of it has the frame's colour.
+                auto shows = [&](QPointF edge, QPointF inwards) {
+                    for (double step = -0.5; step <= 1.5; step += 1.0 / 3) {
+                        const QPoint at = ((edge + inwards * step) * 1.5).toPoint();
+                        if (picture.rect().contains(at) && picture.pixel(at) == frame.rgb()) return true;
+                    }
+                    return false;
+                };
+                const QPointF middle = QRectF(r).center();
+                EXPECT_TRUE(shows({double(r.left()), middle.y()}, {1, 0})) << "left edge";
+                EXPECT_TRUE(shows({double(r.right() + 1), middle.y()}, {-1, 0})) << "right edge";
+                EXPECT_TRUE(shows({middle.x(), double(r.top())}, {0, 1})) << "top edge";
+                EXPECT_TRUE(shows({middle.x(), double(r.bottom() + 1)}, {0, -1})) << "bottom edge";
+                ++checked;
+            }
+        }
+    EXPECT_GT(checked, 20);
 }
