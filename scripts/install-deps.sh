@@ -12,8 +12,9 @@ packages=(
   # the end-to-end test: a real drag from a second X client, the X clipboard read back
   xdotool xclip x11-utils
   python3
-  # packaging: the .deb (dpkg-shlibdeps finds its run-time dependencies) and its desktop files' checks
-  dpkg-dev fakeroot file desktop-file-utils appstream
+  # packaging: the .deb (dpkg-shlibdeps finds its run-time dependencies), its desktop files' checks
+  # and lintian's
+  dpkg-dev fakeroot file desktop-file-utils appstream lintian
 )
 
 missing=()
