@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QStyle>
 #include <QTimer>
+#include <QWindow>
 
 #include "cli/Commands.h"
 #include "framework/EventBoundary.h"
@@ -50,8 +51,15 @@ void Screenshot(QWidget& view, const QString& file) {
     });
 }
 
-// Brings the window back from the taskbar or another workspace and gives it the focus.
+// Brings the window back from the taskbar or another workspace and gives it the focus. A window
+// on another workspace is unmapped, and X11 activates no unmapped window: it is shown anew, on
+// the workspace in view, where it stood.
 void Raise(QWidget& view) {
+    if (!view.isMinimized() && view.windowHandle() && !view.windowHandle()->isExposed()) {
+        const QPoint at = view.pos();
+        view.hide();
+        view.move(at);
+    }
     view.setWindowState(view.windowState() & ~Qt::WindowMinimized);
     view.show();
     view.raise();
