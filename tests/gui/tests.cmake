@@ -12,6 +12,8 @@ target_compile_definitions(velmora_gui_tests PRIVATE
   VELMORA_SHIPPED_DATA_DIR="${PROJECT_SOURCE_DIR}/data"
   VELMORA_GUI_SCREENS="${CMAKE_CURRENT_SOURCE_DIR}/gui/screens.json")
 gtest_discover_tests(velmora_gui_tests DISCOVERY_TIMEOUT 60 PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+add_test(NAME CommandLine.WithoutADisplay
+  COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/gui/without_display.sh $<TARGET_FILE:velmora>)
 
 # End to end in a real X server: a drag from a second X client and drops by a second start; the
 # window under a window manager; a Wayland session. The drag source serves as any other window.
