@@ -9,13 +9,15 @@ packages=(
   libpugixml-dev libpcre2-dev
   libgtest-dev libgmock-dev libbenchmark-dev
   xvfb xauth
-  # the end-to-end test: a real drag from a second X client, the X clipboard read back
-  xdotool xclip x11-utils
+  # the end-to-end tests: a real drag from a second X client, the X clipboard read back; the
+  # window under a window manager; a Wayland session with XWayland, and Qt's Wayland platform
+  xdotool xclip x11-utils openbox weston xwayland qt6-wayland
   python3
   # the robustness tests: pgrep tells which copies run
   procps
-  # packaging: the .deb (dpkg-shlibdeps finds its run-time dependencies) and its desktop files' checks
-  dpkg-dev fakeroot file desktop-file-utils appstream
+  # packaging: the .deb (dpkg-shlibdeps finds its run-time dependencies), its desktop files' checks
+  # and lintian's
+  dpkg-dev fakeroot file desktop-file-utils appstream lintian
 )
 
 missing=()

@@ -1,6 +1,7 @@
 # The program as a user installs it: `cmake --install` into a scratch prefix and, where dpkg-deb is
 # there, the .deb that cpack makes, unpacked into a scratch root. Each copy must run and read the
-# data installed beside it, not the source tree's, also when started by name through PATH.
+# data installed beside it, not the source tree's, also when started by name through PATH, and
+# carry its documents as Debian wants them; lintian, where it is installed, must find no error.
 # Included by tests/CMakeLists.txt to add the test; run by CTest with `cmake -P` to do it. It uses
 # the built programs and builds nothing, so it cannot race the build or other tests.
 
@@ -12,6 +13,7 @@ if(NOT CMAKE_SCRIPT_MODE_FILE)
       -D CONFIG=$<CONFIG>
       -D GUI=${VELMORA_GUI}
       -D CPACK=${CMAKE_CPACK_COMMAND}
+      -D VERSION=${PROJECT_VERSION}
       -P ${CMAKE_CURRENT_LIST_FILE})
   set_tests_properties(packaging.InstalledProgramsReadTheirOwnData PROPERTIES
     LABELS packaging TIMEOUT 300 SKIP_REGULAR_EXPRESSION "SKIPPED:")
@@ -55,6 +57,64 @@ function(check_desktop_files prefix)
   find_program(appstreamcli appstreamcli)
   if(appstreamcli)
     run(${appstreamcli} validate --no-net ${metainfo})
+  endif()
+endfunction()
+
+# A desktop shows an entry once under each main category it names: one, then.
+function(check_main_category entry)
+  file(STRINGS ${entry} categories REGEX "^Categories=")
+  # file(STRINGS) escapes the semicolons that separate the categories.
+  string(REGEX REPLACE "^Categories=" "" categories "${categories}")
+  string(REPLACE "\\;" ";" categories "${categories}")
+  set(main)
+  foreach(category IN LISTS categories)
+    if(category MATCHES "^(AudioVideo|Audio|Video|Development|Education|Game|Graphics|Network|Office|Science|Settings|System|Utility)$")
+      list(APPEND main ${category})
+    endif()
+  endforeach()
+  list(LENGTH main count)
+  if(NOT count EQUAL 1)
+    message(FATAL_ERROR "the desktop entry names ${count} main categories (${main}), not one")
+  endif()
+endfunction()
+
+# Manual pages compressed, each naming every option its program's --help names; the copyright in
+# Debian's machine-readable format; the changelog compressed and at the package's version.
+function(check_documents prefix)
+  set(programs velmora-cli)
+  if(GUI)
+    list(APPEND programs velmora)
+  endif()
+  file(GLOB plain ${prefix}/share/man/man1/*.1)
+  if(plain)
+    message(FATAL_ERROR "manual pages installed uncompressed: ${plain}")
+  endif()
+  foreach(program IN LISTS programs)
+    set(page ${prefix}/share/man/man1/${program}.1.gz)
+    if(NOT EXISTS ${page})
+      message(FATAL_ERROR "${program}(1) is not installed as ${page}")
+    endif()
+    run(${GZIP} -dc ${page})
+    string(REPLACE "\\-" "-" manual "${out}")
+    run(${prefix}/bin/${program} --help)
+    string(REGEX MATCHALL "--[a-z][a-z-]*" options "${out}")
+    list(REMOVE_DUPLICATES options)
+    foreach(option IN LISTS options)
+      string(FIND "${manual}" "${option}" found)
+      if(found EQUAL -1)
+        message(FATAL_ERROR "${program}(1) does not name ${option}, which ${program} --help names")
+      endif()
+    endforeach()
+  endforeach()
+
+  set(doc ${prefix}/share/doc/velmora)
+  file(STRINGS ${doc}/copyright format LIMIT_COUNT 1)
+  if(NOT format STREQUAL "Format: https://www.debian.org/doc/packaging-manuals/copyright-format/1.0/")
+    message(FATAL_ERROR "${doc}/copyright is not in the machine-readable format: ${format}")
+  endif()
+  run(${GZIP} -dc ${doc}/changelog.gz)
+  if(NOT out MATCHES "^velmora \\(${VERSION}\\) ")
+    message(FATAL_ERROR "${doc}/changelog.gz does not begin with version ${VERSION}")
   endif()
 endfunction()
 
@@ -104,10 +164,13 @@ if(CONFIG)
   set(cpack_config -C ${CONFIG})
 endif()
 
+find_program(GZIP gzip REQUIRED)
 run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${SCRATCH}/prefix ${config})
 if(GUI)
   check_desktop_files(${SCRATCH}/prefix)
+  check_main_category(${SCRATCH}/prefix/share/applications/org.velmora.Velmora.desktop)
 endif()
+check_documents(${SCRATCH}/prefix)
 check_programs(${SCRATCH}/prefix)
 
 find_program(dpkg_deb dpkg-deb)
@@ -152,4 +215,16 @@ run(${dpkg_deb} -x ${deb} ${SCRATCH}/root)
 if(GUI)
   check_desktop_files(${SCRATCH}/root/usr)
 endif()
+check_documents(${SCRATCH}/root/usr)
 check_programs(${SCRATCH}/root/usr)
+
+find_program(lintian lintian)
+if(NOT lintian)
+  message("SKIPPED: lintian not found, so the .deb was not checked by it")
+  return()
+endif()
+execute_process(COMMAND ${lintian} --fail-on error --tag-display-limit 0 ${deb}
+  RESULT_VARIABLE code OUTPUT_VARIABLE out ERROR_VARIABLE err)
+if(NOT code EQUAL 0)
+  message(FATAL_ERROR "lintian finds errors in the .deb:\n${out}${err}")
+endif()

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Make resources/fullwindow1.jpg and resources/fullwindow2.jpg, the introduction window's
-# pictures of the expanded main window, from the program's own rendering.
+# pictures of the expanded main window, from the program's own rendering, and their @2x
+# variants, rendered at twice the scale for screens scaled by 1.5 or 2.
 #
 # Usage:
 #     tools/make_fullwindow.sh [BUILD_DIR] [OUTDIR]
@@ -17,5 +18,7 @@ out=${2:-$here/resources}
 cmake --build "$build" --target velmora-fullwindow >/dev/null
 tool=$(find "$build" -name velmora-fullwindow -type f -perm -u+x | head -1)
 [ -n "$tool" ] || { echo "make_fullwindow.sh: velmora-fullwindow not found in $build" >&2; exit 1; }
-QT_QPA_PLATFORM=offscreen "$tool" "$out"
-echo "wrote $out/fullwindow1.jpg and $out/fullwindow2.jpg"
+for scale in 1 2; do
+  QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=$scale "$tool" "$out"
+done
+echo "wrote fullwindow1.jpg, fullwindow2.jpg and their @2x variants in $out"

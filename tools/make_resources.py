@@ -7,6 +7,8 @@ Usage:
 Writes, into OUTDIR (default: resources/ beside this tools/ folder):
     target.gif    62x62 bull's-eye target, at rest
     target2.gif   the same target lit, shown for the one-second blink
+    target@2x.gif, target2@2x.gif
+                  the same at 124x124, for screens scaled by 1.5 or 2
     claves.wav    knock of two wooden claves: the drop found no action
     beep.wav      soft beep for desktops without a bell
     velmora.png   256x256 application icon
@@ -65,27 +67,31 @@ LIT_COLOURS = ("#9a6a00",
 WINDOW_GREY = hexrgb("#efefef")
 
 
-def render_target(colours, glow):
-    """Return rows of (r, g, b) or None (transparent) for the 62x62 target."""
-    size = TARGET_SIZE
+def render_target(colours, glow, scale):
+    """Return rows of (r, g, b) or None (transparent) for the target, 62x62 times scale.
+
+    The rings are drawn anew at each scale, so that their edges stay one pixel soft.
+    """
+    size = TARGET_SIZE * scale
     c = size / 2.0
+    radii = [r * scale for r in TARGET_RADII]
     cols = [hexrgb(x) for x in colours]
     rows = []
     for y in range(size):
         row = []
         for x in range(size):
             d = math.hypot(x + 0.5 - c, y + 0.5 - c)
-            outer = disc_cover(d, TARGET_RADII[0])
+            outer = disc_cover(d, radii[0])
             if outer < 0.5:
                 row.append(None)
                 continue
             col = cols[0]
-            for radius, ring in zip(TARGET_RADII[1:], cols[1:]):
+            for radius, ring in zip(radii[1:], cols[1:]):
                 col = lerp(col, ring, disc_cover(d, radius))
             if glow:
                 # The lit picture brightens towards the middle so that it reads
                 # as light coming from the centre, not just other paint.
-                t = clamp01(1.0 - d / TARGET_RADII[1])
+                t = clamp01(1.0 - d / radii[1])
                 col = lerp(col, (255, 255, 240), 0.35 * t * t)
             col = lerp(WINDOW_GREY, col, outer)
             row.append(col)
@@ -199,10 +205,10 @@ def gif_bytes(width, height, palette, pixels, transparent_index=0):
     return bytes(data)
 
 
-def make_target_gif(colours, glow):
-    rows = render_target(colours, glow)
+def make_target_gif(colours, glow, scale=1):
+    rows = render_target(colours, glow, scale)
     palette, pixels = palette_of(rows)
-    return gif_bytes(TARGET_SIZE, TARGET_SIZE, palette, pixels)
+    return gif_bytes(TARGET_SIZE * scale, TARGET_SIZE * scale, palette, pixels)
 
 
 # ---------------------------------------------------------------------------
@@ -395,6 +401,8 @@ def main(argv):
     files = {
         "target.gif": make_target_gif(REST_COLOURS, glow=False),
         "target2.gif": make_target_gif(LIT_COLOURS, glow=True),
+        "target@2x.gif": make_target_gif(REST_COLOURS, glow=False, scale=2),
+        "target2@2x.gif": make_target_gif(LIT_COLOURS, glow=True, scale=2),
         "claves.wav": wav_bytes(claves_samples()),
         "beep.wav": wav_bytes(beep_samples()),
         "velmora.png": png_bytes(ICON, ICON, render_icon()),
@@ -404,7 +412,7 @@ def main(argv):
         path = os.path.join(outdir, name)
         with open(path, "wb") as f:
             f.write(files[name])
-        print("%-12s %6d bytes" % (name, len(files[name])))
+        print("%-14s %6d bytes" % (name, len(files[name])))
     return 0
 
 

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QEvent>
 #include <QFrame>
 #include <QGroupBox>
 #include <QLabel>
@@ -144,7 +145,13 @@ public:
 protected:
     void Update(fw::Property property) override {
         if (property != fw::Property::Image) return;
-        static_cast<QLabel*>(Widget())->setPixmap(QPixmap(platform_.PicturePath(model_.Image())));
+        static_cast<QLabel*>(Widget())->setPixmap(platform_.Picture(model_.Image(), Widget()->devicePixelRatioF()));
+    }
+
+    // A window moved to a screen of another scale is drawn there anew: so is the picture.
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == Widget() && event->type() == QEvent::ScreenChangeInternal) Update(fw::Property::Image);
+        return ControlBinding::eventFilter(watched, event);
     }
 
 private:

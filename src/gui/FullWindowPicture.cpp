@@ -97,9 +97,12 @@ std::optional<QPointF> PictureToWindow(const std::vector<PicturePiece>& pieces, 
 }
 
 QImage ComposePicture(const QImage& window, const std::vector<PicturePiece>& pieces, const QString& title) {
-    QImage picture(kPictureWidth, kPictureHeight, QImage::Format_RGB32);
+    // A rendering on a scaled screen gives a picture of as many device pixels to a pixel.
+    const qreal ratio = window.devicePixelRatio();
+    QImage picture(QSize(kPictureWidth, kPictureHeight) * ratio, QImage::Format_RGB32);
+    picture.setDevicePixelRatio(ratio);
     // The gap between the left column and the left panel is plain window background.
-    const QColor background = window.pixelColor(int(kLeftColumnEnd), 300);
+    const QColor background = window.pixelColor(QPointF(kLeftColumnEnd, 300).toPoint() * ratio);
     picture.fill(background);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
@@ -117,6 +120,9 @@ QImage ComposePicture(const QImage& window, const std::vector<PicturePiece>& pie
     painter.setPen(QColor(0x30, 0x30, 0x30));
     painter.drawText(titleBar, Qt::AlignCenter, title);
 
-    for (const PicturePiece& piece : pieces) painter.drawImage(piece.picture, window, piece.window);
+    for (const PicturePiece& piece : pieces) {
+        const QRectF from(piece.window.topLeft() * ratio, piece.window.size() * ratio);
+        painter.drawImage(piece.picture, window, from);
+    }
     return picture;
 }

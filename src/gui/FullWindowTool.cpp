@@ -1,6 +1,7 @@
 // velmora-fullwindow OUTDIR: renders the expanded main window and writes the introduction's two
 // pictures of it, fullwindow2.jpg (the target at rest, shown first) and fullwindow1.jpg (the
-// target lit). Run it on Qt's offscreen platform; tools/make_fullwindow.sh does.
+// target lit). Run on a screen scaled by 2 (QT_SCALE_FACTOR=2), it writes fullwindow2@2x.jpg and
+// fullwindow1@2x.jpg. Run it on Qt's offscreen platform; tools/make_fullwindow.sh does.
 
 #include <cstdio>
 
@@ -57,8 +58,9 @@ int main(int argc, char** argv) {
     window.ImageWell1.SetImage("target2");
     const QImage lit = ComposePicture(Render(view), pieces, title);
 
-    bool saved = atRest.save(out.filePath(QStringLiteral("fullwindow2.jpg")), "JPG", 92);
-    saved = lit.save(out.filePath(QStringLiteral("fullwindow1.jpg")), "JPG", 92) && saved;
+    const QString scale = atRest.devicePixelRatio() > 1 ? QStringLiteral("@%1x").arg(atRest.devicePixelRatio()) : QString();
+    bool saved = atRest.save(out.filePath(QStringLiteral("fullwindow2%1.jpg").arg(scale)), "JPG", 92);
+    saved = lit.save(out.filePath(QStringLiteral("fullwindow1%1.jpg").arg(scale)), "JPG", 92) && saved;
     if (!saved) std::fprintf(stderr, "velmora-fullwindow: cannot write the pictures to %s\n", argv[1]);
     return saved ? 0 : 1;
 }

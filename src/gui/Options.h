@@ -21,6 +21,7 @@ struct Options {
     QString run;         // --run "LINES": commands for the running copy, its answer printed
     bool quit = false;   // --quit: end the running copy
     int wait = 60;       // --wait SECONDS: how long a later start waits for a busy running copy
+    QString platform;    // --platform xcb|wayland: the window system, over QT_QPA_PLATFORM
     bool help = false;   // --help
     bool version = false;  // --version
     QString error;       // a usage fault, empty when the line was understood
@@ -30,4 +31,7 @@ struct Options {
     bool Solo() const { return !screenshot.isEmpty() || !introScreenshot.isEmpty(); }
 };
 
+// The usage lines, printed after a fault on the command line.
 extern const char* const kUsage;
+// --help: every option, and what native Wayland cannot do.
+extern const char* const kHelp;

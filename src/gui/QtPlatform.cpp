@@ -6,6 +6,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
+#include <QImage>
 #include <QLocale>
 #include <QMessageBox>
 #include <QSoundEffect>
@@ -71,4 +72,18 @@ QString QtPlatform::PicturePath(const std::string& name) const {
     const QString gif = folder.filePath(QString::fromStdString(name) + ".gif");
     const QString jpg = folder.filePath(QString::fromStdString(name) + ".jpg");
     return QFileInfo::exists(gif) || !QFileInfo::exists(jpg) ? gif : jpg;
+}
+
+QPixmap QtPlatform::Picture(const std::string& name, qreal ratio) const {
+    const QFileInfo file(PicturePath(name));
+    QImage image(file.filePath());
+    const QSize pixels = (QSizeF(image.size()) * ratio).toSize();
+    if (ratio > 1) {
+        const QImage sharper(file.dir().filePath(file.completeBaseName() + "@2x." + file.suffix()));
+        if (!sharper.isNull()) image = sharper;
+    }
+    // Shrinking the larger picture keeps it sharp; only a picture without one is enlarged.
+    if (image.size() != pixels) image = image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    image.setDevicePixelRatio(ratio);
+    return QPixmap::fromImage(image);
 }

@@ -2,6 +2,7 @@
 // The desktop behind the logic: Qt's clipboard, sounds, message boxes and browser.
 
 #include <QHash>
+#include <QPixmap>
 #include <QString>
 
 #include "framework/Folders.h"
@@ -30,6 +31,9 @@ public:
     const fw::FolderSet& Folders() const { return folders_; }
     // Picture resources by their name in the code: "target" is target.gif, "fullwindow1" fullwindow1.jpg.
     QString PicturePath(const std::string& name) const;
+    // The picture `name` for a screen of `ratio` device pixels to a pixel, one device pixel to
+    // each of its own: made from the "@2x" file where the screen is scaled and there is one.
+    QPixmap Picture(const std::string& name, qreal ratio) const;
 
 private:
     QSoundEffect* Sound(const QString& file);

@@ -1,18 +1,42 @@
 #include "gui/WindowView.h"
 
+#include <algorithm>
+
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QGuiApplication>
 #include <QMimeData>
+#include <QScreen>
 
 #include "framework/EventBoundary.h"
 #include "gui/Bindings.h"
 #include "gui/QtPlatform.h"
 
+namespace {
+// The window manager is asked for exactly the buttons the model's window has.
+Qt::WindowFlags FlagsOf(const fw::Window& model) {
+    Qt::WindowFlags flags = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+    if (model.CloseButton) flags |= Qt::WindowCloseButtonHint;
+    if (model.MinimizeButton) flags |= Qt::WindowMinimizeButtonHint;
+    if (model.MaximizeButton) flags |= Qt::WindowMaximizeButtonHint;
+    if (model.Frame == 7) flags |= Qt::WindowStaysOnTopHint;
+    return flags;
+}
+
+// Where a window frame stands once moved onto `area` as little as it takes; a frame larger than
+// the area keeps its top left corner, and so its title bar, in view.
+QPoint KeptOn(const QRect& area, QRect frame) {
+    frame.moveRight(std::min(frame.right(), area.right()));
+    frame.moveBottom(std::min(frame.bottom(), area.bottom()));
+    frame.moveLeft(std::max(frame.left(), area.left()));
+    frame.moveTop(std::max(frame.top(), area.top()));
+    return frame.topLeft();
+}
+}  // namespace
+
 WindowView::WindowView(fw::Window& model, QtPlatform& platform)
-    : QWidget(nullptr, Qt::Window | Qt::WindowTitleHint | Qt::WindowCloseButtonHint | Qt::WindowMinimizeButtonHint |
-                           (model.Frame == 7 ? Qt::WindowStaysOnTopHint : Qt::Widget)),
-      model_(model), platform_(platform) {
+    : QWidget(nullptr, FlagsOf(model)), model_(model), platform_(platform) {
     setWindowTitle(QString::fromStdString(model.Title()));
     setAcceptDrops(true);
     Build();
@@ -56,7 +80,25 @@ ControlBinding* WindowView::BindingFor(const std::string& name) const {
     return nullptr;
 }
 
-void WindowView::WindowResized() { setFixedSize(model_.Width(), model_.Height()); }
+// The size is the model's alone: the user cannot resize the window. A window that grows stays
+// whole on the screen that holds it, and goes back where it was when it shrinks again.
+void WindowView::WindowResized() {
+    const QSize next(model_.Width(), model_.Height());
+    const QSize before = size();
+    const QRect frame = frameGeometry();
+    setFixedSize(next);
+    if (!isVisible()) return;
+    if (!home_ && next.width() * next.height() > before.width() * before.height()) home_ = QRect(pos(), before);
+    if (!home_) return;
+    if (next == home_->size()) {
+        move(home_->topLeft());
+        home_.reset();
+        return;
+    }
+    const QScreen* screen = QGuiApplication::screenAt(frame.center());
+    const QSize decorations = frame.size() - before;
+    move(KeptOn((screen ? screen : this->screen())->availableGeometry(), QRect(frame.topLeft(), next + decorations)));
+}
 
 void WindowView::WindowShown(bool visible) { setVisible(visible); }
 

@@ -4,6 +4,7 @@
 // model's Event_DropObject.
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include <QWidget>
@@ -39,4 +40,7 @@ private:
     fw::Window& model_;
     QtPlatform& platform_;
     std::vector<std::unique_ptr<ControlBinding>> bindings_;
+    // Where the user had put the window before it grew, and its size then: shrinking back to that
+    // size returns it there.
+    std::optional<QRect> home_;
 };

@@ -10,18 +10,22 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QFile>
+#include <QStyle>
 #include <QTimer>
+#include <QWindow>
 
 #include "cli/Commands.h"
 #include "framework/EventBoundary.h"
 #include "framework/Folders.h"
 #include "framework/HomeLock.h"
+#include "gui/FrameStyle.h"
 #include "gui/MenuView.h"
 #include "gui/Options.h"
 #include "gui/QtPlatform.h"
 #include "gui/InstanceAddress.h"
 #include "gui/SingleInstance.h"
 #include "gui/TerminationSignals.h"
+#include "gui/WindowSystem.h"
 #include "gui/WindowView.h"
 #include "shell/Window2.h"
 #include "window/Window1.h"
@@ -47,7 +51,16 @@ void Screenshot(QWidget& view, const QString& file) {
     });
 }
 
+// Brings the window back from the taskbar or another workspace and gives it the focus. A window
+// on another workspace is unmapped, and X11 activates no unmapped window: it is shown anew, on
+// the workspace in view, where it stood.
 void Raise(QWidget& view) {
+    if (!view.isMinimized() && view.windowHandle() && !view.windowHandle()->isExposed()) {
+        const QPoint at = view.pos();
+        view.hide();
+        view.move(at);
+    }
+    view.setWindowState(view.windowState() & ~Qt::WindowMinimized);
     view.show();
     view.raise();
     view.activateWindow();
@@ -64,11 +77,9 @@ InstanceRequest RequestOf(const Options& options) {
 // An empty drop is never made: a shortcut pressed with nothing selected says so instead.
 const char* const kNothingSelected = "velmora: nothing is selected; nothing was dropped\n";
 
-// Qt would abort without a screen to show on; say so and end.
-bool HasDisplay() {
-    for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-        if (const char* value = std::getenv(variable); value && *value) return true;
-    return false;
+std::string Environment(const char* variable) {
+    const char* value = std::getenv(variable);
+    return value ? value : "";
 }
 }  // namespace
 
@@ -81,7 +92,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     if (options.help) {
-        std::fputs(kUsage, stdout);
+        std::fputs(kHelp, stdout);
         return 0;
     }
     if (options.version) {
@@ -116,16 +127,20 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "velmora: no running copy to take the commands\n");
         return 1;
     }
-    if (!HasDisplay()) {
-        std::fprintf(stderr, "velmora: no display to show the window on (DISPLAY and WAYLAND_DISPLAY are unset)\n");
+    // Qt would abort without a display to show on: say so and end.
+    const WindowSystem system = WindowSystem::Choose(options.platform.toStdString(), Environment);
+    if (!system.error.empty()) {
+        std::fprintf(stderr, "velmora: %s\n", system.error.c_str());
         return 1;
     }
+    if (!system.platform.empty()) qputenv("QT_QPA_PLATFORM", QByteArray::fromStdString(system.platform));
 
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Velmora"));
     QApplication::setApplicationVersion(QStringLiteral("3.0.0"));
     QApplication::setDesktopFileName(QStringLiteral("org.velmora.Velmora"));
     QApplication::setQuitOnLastWindowClosed(true);
+    QApplication::setStyle(new FrameStyle(QApplication::style()->name()));
     if (options.dropSelection && SelectedText().isEmpty()) {
         std::fputs(kNothingSelected, stderr);
         return 1;

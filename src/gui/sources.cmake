@@ -3,6 +3,7 @@ set(CMAKE_AUTOMOC OFF)
 add_library(velmora_gui STATIC
   gui/ButtonBindings.cpp
   gui/ControlBinding.cpp
+  gui/FrameStyle.cpp
   gui/FullWindowPicture.cpp
   gui/InstanceAddress.cpp
   gui/ListBindings.cpp
@@ -12,6 +13,7 @@ add_library(velmora_gui STATIC
   gui/SingleInstance.cpp
   gui/TerminationSignals.cpp
   gui/TextBindings.cpp
+  gui/WindowSystem.cpp
   gui/WindowView.cpp
 )
 target_link_libraries(velmora_gui PUBLIC velmora_console Qt6::Widgets Qt6::Multimedia Qt6::Network)

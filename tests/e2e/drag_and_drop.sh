@@ -5,33 +5,10 @@
 set -euo pipefail
 velmora=$1 source=$2 data=$3
 
-for tool in Xvfb xdotool xclip xdpyinfo; do
-  command -v "$tool" >/dev/null || { echo "SKIPPED: $tool is not installed"; exit 77; }
-done
-
-home=$(mktemp -d)
-pids=()
-cleanup() {
-  for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null || true; done
-  rm -rf "$home"
-}
-trap cleanup EXIT
-
-fail() { echo "FAILED: $*"; exit 1; }
-
-# A display of our own, free of other tests' windows.
-for n in $(seq 120 160); do
-  [ -e "/tmp/.X11-unix/X$n" ] || [ -e "/tmp/.X$n-lock" ] || { display=":$n"; break; }
-done
-Xvfb "$display" -screen 0 1024x768x24 -nolisten tcp >/dev/null 2>&1 &
-pids+=($!)
-export DISPLAY=$display
-for _ in $(seq 50); do xdpyinfo >/dev/null 2>&1 && break; sleep 0.1; done
-
-mkdir -p "$home/data" "$home/prefs"
-cp -r "$data/VLSupport" "$home/data/"
-# The introduction has been seen.
-: > "$home/prefs/VL3Instr.txt"
+source "$(dirname "$0")/session.sh"
+require Xvfb xdotool xclip xdpyinfo
+start_xvfb 120 160 1024x768
+prepare_home "$data"
 
 "$velmora" --home "$home" >"$home/velmora.out" 2>&1 &
 pids+=($!)

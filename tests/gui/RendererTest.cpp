@@ -127,10 +127,3 @@ TEST(Renderer, TextDroppedReachesTheDropHandler) {
     // Child widgets leave every drop to the window.
     for (QWidget* child : screen.view.findChildren<QWidget*>()) EXPECT_FALSE(child->acceptDrops());
 }
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}
