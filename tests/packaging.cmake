@@ -165,6 +165,8 @@ if(CONFIG)
 endif()
 
 find_program(GZIP gzip REQUIRED)
+# A fresh prefix each run: files an earlier build installed must not stand in for this one's.
+file(REMOVE_RECURSE ${SCRATCH}/prefix)
 run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${SCRATCH}/prefix ${config})
 if(GUI)
   check_desktop_files(${SCRATCH}/prefix)
