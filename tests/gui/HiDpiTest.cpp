@@ -10,7 +10,7 @@
 #include "gui/WindowView.h"
 #include "shell/Window2.h"
 #include "window/Window1.h"
-#include "QuietPlatform.h"
+#include "Screen.h"
 
 namespace {
 QScreen* ScreenScaledBy(qreal ratio) {
@@ -55,13 +55,12 @@ TEST(HiDpiPictures, EachPictureHasAVariantOfTwiceItsSizeShowingTheSame) {
 // pixel to each pixel of the picture shown: never enlarged, so never blurred. A window moved to
 // another screen gets its pictures anew.
 TEST(HiDpiPictures, PicturesMatchTheScreenTheyAreOn) {
-    QuietPlatform platform(GuiHome("hidpi", true));
-    Window1 window(platform);
-    WindowView view(window, platform);
-    window.Open();
+    Screen screen("hidpi");
+    Window1& window = screen.window;
+    WindowView& view = screen.view;
     view.show();
-    Window2 intro(platform, [] {});
-    WindowView introView(intro, platform);
+    Window2 intro(screen.platform, [] {});
+    WindowView introView(intro, screen.platform);
     intro.Open();
     struct Case {
         WindowView& view;
@@ -89,10 +88,9 @@ TEST(HiDpiPictures, PicturesMatchTheScreenTheyAreOn) {
 // At 1.5 a one-pixel frame falls between device pixels; every list and text area on every page
 // must still show all four edges of its frame.
 TEST(HiDpiFrames, ListsAndTextAreasKeepTheirWholeFrameAtOneAndAHalf) {
-    QuietPlatform platform(GuiHome("frames", true));
-    Window1 window(platform);
-    WindowView view(window, platform);
-    window.Open();
+    Screen screen("frames");
+    Window1& window = screen.window;
+    WindowView& view = screen.view;
     view.show();
     MoveOnto(view, 1.5);
     window.ImageWell1.FireMouseDown(30, 40);
