@@ -146,7 +146,7 @@ int HandOver(const std::string& socketPath, const InstanceRequest& request, int 
         // start like this one that held it for a moment and is gone: then the home is free.
         if (takeHome()) return kHomeTaken;
         if (MillisecondsLeft(deadline) <= 0) break;
-        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }
     std::fprintf(stderr,
                  "velmora: Velmora already runs on this home (process %ld) and has not answered in %d s; "
