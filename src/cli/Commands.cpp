@@ -118,13 +118,20 @@ void Commands::Set(Control& control, const std::string& value) {
     }
 }
 
-bool Commands::Execute(const std::string& line, std::ostream& out, std::ostream& err) {
-    const std::string command = Lowercase(NthField(line, " ", 1));
+CommandLine::CommandLine(const std::string& line) : command(Lowercase(NthField(line, " ", 1))) {
     const size_t space = line.find(' ');
-    const std::string rest = space == std::string::npos ? std::string() : line.substr(space + 1);
-    const std::string name = NthField(rest, " ", 1);
+    if (space != std::string::npos) rest = line.substr(space + 1);
+    name = NthField(rest, " ", 1);
     const size_t nameEnd = rest.find(' ');
-    const std::string value = nameEnd == std::string::npos ? std::string() : Unescape(rest.substr(nameEnd + 1));
+    if (nameEnd != std::string::npos) value = Unescape(rest.substr(nameEnd + 1));
+}
+
+bool Commands::Execute(const std::string& line, std::ostream& out, std::ostream& err) {
+    const CommandLine parsed(line);
+    const std::string& command = parsed.command;
+    const std::string& rest = parsed.rest;
+    const std::string& name = parsed.name;
+    const std::string& value = parsed.value;
 
     if (command.empty()) return true;
     if (command == "quit") {

@@ -11,6 +11,16 @@
 #include "framework/Platform.h"
 #include "window/Window1.h"
 
+// One command line taken apart: "set EditField4 2+2" is the command "set", the rest
+// "EditField4 2+2", the name "EditField4" and the value "2+2" (escapes undone).
+struct CommandLine {
+    explicit CommandLine(const std::string& line);
+    std::string command;  // lower case
+    std::string rest;
+    std::string name;
+    std::string value;
+};
+
 class Commands {
 public:
     Commands(Window1& window, fw::Platform& platform) : window(window), platform(platform) {}

@@ -1,7 +1,6 @@
 #include "framework/FolderItem.h"
 
 #include <cerrno>
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -46,14 +45,13 @@ bool FolderItem::CreateAsFolder() const {
 }
 
 TextInputStreamRef FolderItem::OpenAsTextFile() const {
-    // Not blocking: a FIFO in a file's place is no file, not a wait.
-    const int fd = ::open(path_.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (fd < 0) return nullptr;
     struct stat info {};
+    const int fd = OpenRegular(path_, &info);
+    if (fd < 0) return nullptr;
     std::string content;
-    bool ok = ::fstat(fd, &info) == 0 && S_ISREG(info.st_mode);
+    bool ok = true;
     // Read at the size the file has now, and on to its end if it is still growing.
-    if (ok) content.reserve(static_cast<size_t>(info.st_size));
+    content.reserve(static_cast<size_t>(info.st_size));
     char chunk[1 << 16];
     while (ok) {
         const ssize_t got = ::read(fd, chunk, sizeof chunk);

@@ -1,5 +1,6 @@
 #include "framework/RecordingPlatform.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <ostream>
 
@@ -11,6 +12,8 @@ void RecordingPlatform::SetClipboardText(const std::string& text) {
     clipboard = text;
     ++clipboardWrites;
 }
+
+int RecordingPlatform::Beeps() const { return static_cast<int>(std::count(sounds.begin(), sounds.end(), "beep")); }
 
 void RecordingPlatform::MsgBox(const std::string& message) {
     messages.push_back(message);

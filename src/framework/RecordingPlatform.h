@@ -17,10 +17,7 @@ public:
 
     void SetClipboardText(const std::string& text) override;
     std::string ClipboardText() override { return clipboard; }
-    void Beep() override {
-        ++beeps;
-        sounds.push_back("beep");
-    }
+    void Beep() override { sounds.push_back("beep"); }
     void PlaySound(const std::string& name) override { sounds.push_back(name); }
     void MsgBox(const std::string& message) override;
     void ShowURL(const std::string& url) override { urls.push_back(url); }
@@ -34,9 +31,9 @@ public:
     FolderSet folders;
     std::string clipboard;
     int clipboardWrites = 0;
-    int beeps = 0;
     // Every beep ("beep") and named sound ("claves"), in the order heard.
     std::vector<std::string> sounds;
+    int Beeps() const;
     std::vector<std::string> messages;
     std::vector<std::string> urls;
     // Where each message box is also written as it comes up: a console shows no boxes.

@@ -13,8 +13,8 @@ namespace fw {
 
 namespace {
 const std::string kTemporaryMark = ".tmp-";
+}  // namespace
 
-// Opens a file for reading only if it is a regular file; a FIFO is never waited on.
 int OpenRegular(const fs::path& path, struct stat* info) {
     const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (fd < 0) return -1;
@@ -26,6 +26,7 @@ int OpenRegular(const fs::path& path, struct stat* info) {
     return fd;
 }
 
+namespace {
 bool CopyAll(int from, int to) {
     char buffer[1 << 16];
     for (;;) {

@@ -5,8 +5,13 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <sys/stat.h>
 
 namespace fw {
+
+// Opens `path` for reading if it is a regular file, and fills `info`; -1 otherwise. A FIFO in a
+// file's place is never waited on.
+int OpenRegular(const std::filesystem::path& path, struct stat* info);
 
 // The file that writing to `path` really changes: a symbolic link is followed to its end, so
 // that a linked file is replaced and the link kept.

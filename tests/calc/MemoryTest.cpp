@@ -103,7 +103,7 @@ TEST(Memory, ClickCopiesTheFormulaAndTheTickOnlyTicks) {
     s.Run("click Listbox3 0 0\nclick Listbox3 1 1");
     EXPECT_EQ(s.w().EditField4.Text(), "x^2:");
     EXPECT_TRUE(s.w().Listbox3.CellCheck(1, 1));
-    EXPECT_EQ(s.desktop().beeps, 0);
+    EXPECT_EQ(s.desktop().Beeps(), 0);
 }
 
 TEST(Memory, QuitWritesTheListBackUnlessItIsEmpty) {

@@ -18,7 +18,7 @@ TEST(ConvertTab, ChainUpperThenLowerUnit) {
     EXPECT_EQ(LogFrom(s, mark),
               "--Lower Unit Conversion Chosen\nEntered: 111.855 W/ft^2\nOutput:10.39167 m^2\n"
               "Entered: 111.855 W/ft^2\nOutput:10.39167 m^2\nEntered: 111.855^2/10.39167\nOutput:1203.997 \n W/m^2\n");
-    EXPECT_EQ(s.desktop().beeps, 4);
+    EXPECT_EQ(s.desktop().Beeps(), 4);
     EXPECT_EQ(s.w().BevelButton1.Caption() + "|" + s.desktop().clipboard, "Convert|1203.997 ");
 }
 
@@ -61,7 +61,7 @@ TEST_P(Presses, WriteTheAnswerBackIntoTheEntry) {
     EXPECT_EQ(s.w().TextField1.Text(), c.result);
     const std::string& log = s.w().EditField2.Text();
     EXPECT_EQ(log.substr(log.rfind('\n', log.size() - 2) + 1), std::string(c.lastLog) + "\n");
-    EXPECT_EQ(s.desktop().beeps, c.beeps);
+    EXPECT_EQ(s.desktop().Beeps(), c.beeps);
 }
 
 INSTANTIATE_TEST_SUITE_P(ConvertTab, Presses, testing::ValuesIn(kPresses),

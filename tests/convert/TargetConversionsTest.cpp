@@ -46,7 +46,7 @@ TEST_P(ClipboardDrops, AnswerWithTheLabelsUnit) {
     EXPECT_EQ(s.desktop().clipboard, *c.answer ? c.answer : "before") << s.LogSinceStart();
     EXPECT_EQ(s.w().EditField5.Text(), c.answer);
     EXPECT_EQ(s.w().ImageWell1.Image(), "target2");
-    EXPECT_EQ(s.desktop().beeps, fw::StrEq(c.category, "Number") || *c.answer ? 1 : 0);
+    EXPECT_EQ(s.desktop().Beeps(), fw::StrEq(c.category, "Number") || *c.answer ? 1 : 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(TargetConversions, ClipboardDrops, testing::ValuesIn(kDrops),
@@ -73,7 +73,7 @@ TEST(TargetConversions, DropWithoutClipboardHandsOverToTheConvertTab) {
     EXPECT_EQ(LogFrom(s, mark), "Entered: 12 km\n--Expanded Window Mode\n---Tabs set to Directions and Convert\n");
     EXPECT_EQ(s.w().TextField1.Text(), "12 km");
     EXPECT_EQ(s.Run("get size\nget TabPanel1\nget TabPanel2\nget clipboard"), "800x600\n3\n3\nbefore\n");
-    EXPECT_EQ(s.desktop().beeps, 0);
+    EXPECT_EQ(s.desktop().Beeps(), 0);
     // Expanded already: only the entry changes; the second word is the unit, "zz" in any case none.
     const std::pair<const char*, const char*> kEntries[] = {
         {"5", "5"}, {"3 ZZ", "3"}, {"1,500 km/h", "1500 km/h"}, {"2 hp extra", "2 hp"}};

@@ -124,12 +124,11 @@ void WidgetDriver::Set(QWidget* widget, const std::string& value) {
 }
 
 bool WidgetDriver::Execute(const std::string& line, std::ostream& out, std::ostream& err) {
-    const std::string command = fw::Lowercase(fw::NthField(line, " ", 1));
-    const size_t space = line.find(' ');
-    const std::string rest = space == std::string::npos ? std::string() : line.substr(space + 1);
-    const std::string name = fw::NthField(rest, " ", 1);
-    const size_t nameEnd = rest.find(' ');
-    const std::string value = nameEnd == std::string::npos ? std::string() : Unescape(rest.substr(nameEnd + 1));
+    const CommandLine parsed(line);
+    const std::string& command = parsed.command;
+    const std::string& rest = parsed.rest;
+    const std::string& name = parsed.name;
+    const std::string& value = parsed.value;
 
     if (command == "choose") {
         if (!Choose(Unescape(rest))) err << "error: no action " << rest << "\n";

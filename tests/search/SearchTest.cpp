@@ -118,19 +118,19 @@ TEST_P(Searches, AnswerLayoutAndHitRule) {
     s.Run(c.setup);
     s.desktop().clipboard = "before";
     s.console.Choose(c.action);
-    const int beeps = s.desktop().beeps;
+    const int beeps = s.desktop().Beeps();
     s.console.Drop(c.term);
     if (*c.clipboard) {
         EXPECT_EQ(s.desktop().clipboard, c.clipboard);
         EXPECT_NE(s.LogSinceStart().find(std::string("Output:") + c.clipboard + "\n"), std::string::npos);
         EXPECT_EQ(s.w().ImageWell1.Image(), "target2");
-        EXPECT_EQ(s.desktop().beeps, beeps + 1);
+        EXPECT_EQ(s.desktop().Beeps(), beeps + 1);
     } else {
         EXPECT_EQ(s.desktop().clipboard, "before");
         EXPECT_NE(s.LogSinceStart().find("Error: Search Term not found\nTry words in a different order or use a single "
                                          "word or part of a word\n"),
                   std::string::npos);
-        EXPECT_EQ(s.desktop().beeps, beeps);
+        EXPECT_EQ(s.desktop().Beeps(), beeps);
     }
     EXPECT_EQ(s.desktop().messages, std::vector<std::string>{});
 }

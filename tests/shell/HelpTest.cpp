@@ -65,7 +65,7 @@ TEST_P(HelpDelivery, ClipboardLogAndBlinkByDropAndByButton) {
         if (row.log == Logged::AfterNote) expected = logHead + kNote + "\n" + help.substr(kNote.size());
         EXPECT_EQ(s.w().EditField2.Text().substr(mark), expected);
         EXPECT_EQ(s.w().ImageWell1.Image(), byDrop && row.blinksOnDrop ? "target2" : "target");
-        EXPECT_EQ(s.desktop().beeps, 1);
+        EXPECT_EQ(s.desktop().Beeps(), 1);
     }
 }
 

@@ -55,7 +55,7 @@ TEST_P(Drops, DeliverExactlyWhatTheRewritingAllows) {
     s.desktop().clipboard = "before";
     s.console.Drop(c.text);
     EXPECT_EQ(s.desktop().clipboard, *c.clipboard ? c.clipboard : "before") << s.w().EditField2.Text();
-    EXPECT_EQ(s.desktop().beeps, *c.clipboard ? 1 : 0);
+    EXPECT_EQ(s.desktop().Beeps(), *c.clipboard ? 1 : 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Calculate, Drops, testing::ValuesIn(kDrops),
@@ -92,7 +92,7 @@ TEST(Drop, FailedRunLogsOneLineAndKeepsTheLastAnswer) {
     EXPECT_EQ(s.desktop().clipboard, "5 ");
     EXPECT_EQ(s.w().EditField5.Text(), "5 ");
     EXPECT_NE(s.w().EditField2.Text().find("Entered: 2+\nERROR: Syntax does not make sense.\n"), std::string::npos);
-    EXPECT_EQ(s.desktop().beeps, 1);
+    EXPECT_EQ(s.desktop().Beeps(), 1);
 }
 
 TEST(Drop, PurgeLogsWhatItChanged) {
@@ -109,7 +109,7 @@ TEST(Drop, ActionsWithoutDropsPlayClaves) {
     s.Run("choose Solve");
     s.console.Drop("2+2");
     EXPECT_EQ(s.desktop().sounds, std::vector<std::string>{"claves"});
-    EXPECT_EQ(s.desktop().beeps, 0);
+    EXPECT_EQ(s.desktop().Beeps(), 0);
     EXPECT_NE(s.w().EditField2.Text().find("Entered: 2+2\n"), std::string::npos);
 }
 
