@@ -126,22 +126,19 @@ void WidgetDriver::Set(QWidget* widget, const std::string& value) {
 bool WidgetDriver::Execute(const std::string& line, std::ostream& out, std::ostream& err) {
     const CommandLine parsed(line);
     const std::string& command = parsed.command;
-    const std::string& rest = parsed.rest;
-    const std::string& name = parsed.name;
-    const std::string& value = parsed.value;
 
     if (command == "choose") {
-        if (!Choose(Unescape(rest))) err << "error: no action " << rest << "\n";
+        if (!Choose(Unescape(parsed.rest))) err << "error: no action " << parsed.rest << "\n";
     } else if (command == "drop") {
-        Drop(Unescape(rest));
+        Drop(Unescape(parsed.rest));
     } else if (command == "push" || command == "click" || command == "set") {
-        QWidget* widget = OnScreen(name, err);
+        QWidget* widget = OnScreen(parsed.name, err);
         if (!widget) return true;
-        const std::vector<std::string> numbers = fw::Split(fw::Trim(value), " ");
+        const std::vector<std::string> numbers = fw::Split(fw::Trim(parsed.value), " ");
         const int row = numbers.empty() ? 0 : static_cast<int>(fw::Val(numbers[0]));
         const int column = numbers.size() < 2 ? 0 : static_cast<int>(fw::Val(numbers[1]));
-        if (command == "set") Set(widget, value);
-        else Click(widget, name, row, column);
+        if (command == "set") Set(widget, parsed.value);
+        else Click(widget, parsed.name, row, column);
     } else {
         return commands_.Execute(line, out, err);
     }
